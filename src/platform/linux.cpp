@@ -1,0 +1,98 @@
+#include "platform/platform.hpp"
+#include "platform/stat_times.hpp"
+
+#include <array>
+#include <cerrno>
+#include <climits>
+#include <cstdlib>
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <sys/auxv.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace fl::platform {
+namespace {
+
+/// The loader's record of the module with `address`; without a file name if there is none.
+Dl_info module_at(void const* address) noexcept {
+    Dl_info info{};
+    if (address == nullptr || ::dladdr(address, &info) == 0 || info.dli_fname == nullptr)
+        return Dl_info{};
+    return info;
+}
+
+bool is_relative(Dl_info const& module) noexcept {
+    return module.dli_fname != nullptr && module.dli_fname[0] != '/';
+}
+
+/// The loader keeps the name that it loaded this module by, which may be relative to the working directory of
+/// that moment: resolved now, before the program can change it.
+struct own_name_at_load {
+    own_name_at_load() noexcept {
+        Dl_info const module = module_at(this);
+        base = module.dli_fbase;
+        if (!is_relative(module) || ::realpath(module.dli_fname, path.data()) == nullptr)
+            path[0] = '\0';
+    }
+
+    void const* base = nullptr;
+    std::array<char, PATH_MAX> path; // empty if the loader's name serves
+};
+
+own_name_at_load const own_name;
+
+/// The loader knows the main program by the name that it was called by. Its program headers lie in it.
+bool is_main_program(Dl_info const& module) noexcept {
+    auto const headers =
+        reinterpret_cast<void const*>(::getauxval(AT_PHDR)); // NOLINT(performance-no-int-to-ptr)
+    return module.dli_fbase != nullptr && module.dli_fbase == module_at(headers).dli_fbase;
+}
+
+/// Empty if it can't be told.
+std::string main_program_path() {
+    std::array<char, PATH_MAX> path;
+    ssize_t const length = ::readlink("/proc/self/exe", path.data(), path.size());
+    return length > 0 ? std::string(path.data(), static_cast<std::size_t>(length)) : std::string();
+}
+
+class linux_services : public services {
+public:
+    int volume_flags(std::string const&, std::uint32_t& flags) const override {
+        flags = 0; // names are bytes here, and no call would say otherwise
+        return 0;
+    }
+
+    std::string module_path(void const* address) const override {
+        Dl_info const module = module_at(address);
+        if (is_main_program(module)) {
+            if (std::string path = main_program_path(); !path.empty())
+                return path;
+        }
+        if (!is_relative(module))
+            return module.dli_fname != nullptr ? module.dli_fname : "";
+        if (module.dli_fbase == own_name.base && own_name.path[0] != '\0')
+            return own_name.path.data();
+        std::array<char, PATH_MAX> path;
+        return ::realpath(module.dli_fname, path.data()) != nullptr ? path.data() : module.dli_fname;
+    }
+
+    int set_file_times(std::string const& path, std::timespec const& access,
+                       std::timespec const& modification) const override {
+        std::timespec const times[] = {access, modification};
+        return ::utimensat(AT_FDCWD, path.c_str(), times, 0) == 0 ? 0 : errno;
+    }
+};
+
+} // namespace
+
+services const& native() noexcept {
+    static linux_services const instance;
+    return instance;
+}
+
+stat_times times_of(struct stat const& record) noexcept {
+    return {record.st_atim, record.st_mtim, record.st_ctim};
+}
+
+} // namespace fl::platform

@@ -1,0 +1,76 @@
+#include "platform/platform.hpp"
+#include "platform/stat_times.hpp"
+
+#include <cerrno>
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <string_view>
+#include <sys/attr.h>
+#include <sys/mount.h>
+#include <sys/param.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace fl::platform {
+namespace {
+
+std::uint32_t flags_of_file_system(std::string_view name) noexcept {
+    if (name == "apfs")
+        return volume_normalization_insensitive;
+    if (name == "hfs")
+        return volume_names_decomposed;
+    return 0;
+}
+
+/// Bit 0 where the volume says that it ignores case, nothing where it doesn't say.
+std::uint32_t case_flag_of_volume(char const* mount_point) noexcept {
+    attrlist request{};
+    request.bitmapcount = ATTR_BIT_MAP_COUNT;
+    request.volattr = ATTR_VOL_INFO | ATTR_VOL_CAPABILITIES;
+    struct [[gnu::packed, gnu::aligned(4)]] {
+        std::uint32_t length;
+        vol_capabilities_attr_t capabilities;
+    }
+    answer{};
+    if (::getattrlist(mount_point, &request, &answer, sizeof answer, 0) != 0)
+        return 0;
+    auto const format = answer.capabilities.capabilities[VOL_CAPABILITIES_FORMAT];
+    return (format & VOL_CAP_FMT_CASE_SENSITIVE) != 0 ? 0 : volume_case_insensitive;
+}
+
+class macos_services : public services {
+public:
+    int volume_flags(std::string const& path, std::uint32_t& flags) const override {
+        struct statfs volume {};
+        if (::statfs(path.c_str(), &volume) != 0)
+            return errno;
+        flags = flags_of_file_system(volume.f_fstypename) | case_flag_of_volume(volume.f_mntonname);
+        return 0;
+    }
+
+    std::string module_path(void const* address) const override {
+        Dl_info module{};
+        if (address == nullptr || ::dladdr(address, &module) == 0 || module.dli_fname == nullptr)
+            return {};
+        return module.dli_fname;
+    }
+
+    int set_file_times(std::string const& path, std::timespec const& access,
+                       std::timespec const& modification) const override {
+        std::timespec const times[] = {access, modification};
+        return ::utimensat(AT_FDCWD, path.c_str(), times, 0) == 0 ? 0 : errno;
+    }
+};
+
+} // namespace
+
+services const& native() noexcept {
+    static macos_services const instance;
+    return instance;
+}
+
+stat_times times_of(struct stat const& record) noexcept {
+    return {record.st_atimespec, record.st_mtimespec, record.st_ctimespec};
+}
+
+} // namespace fl::platform
