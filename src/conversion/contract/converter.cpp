@@ -1,0 +1,15 @@
+#include <fl/i18n/converter.hpp>
+
+namespace fl::i18n {
+
+// The one home of the virtual tables and type information of the unit types in use.
+template class converter<char, char16_t>;
+template class converter<char16_t, char>;
+template class converter<wchar_t, char16_t>;
+template class converter<char16_t, wchar_t>;
+
+template class stream_converter<char, char>;
+template class stream_converter<char, char16_t>;
+template class stream_converter<char16_t, char>;
+
+} // namespace fl::i18n

@@ -1,0 +1,44 @@
+#include <fl/i18n/cvt_exception.hpp>
+
+#include <utility>
+
+namespace fl::i18n {
+
+CvtExceptionBase::CvtExceptionBase(std::string message, int kind)
+    : message_(std::move(message)),
+      kind_(kind) {}
+
+char const* CvtExceptionBase::what() const noexcept {
+    return message_.c_str();
+}
+
+CvtInvalidArgument::CvtInvalidArgument() : CvtExceptionBase("fl:i18n:CvtInvalidArgument", 1) {}
+
+CvtInvalidEncodingName::CvtInvalidEncodingName(std::string encoding)
+    : CvtExceptionBase("Invalid encoding name specified.", 2),
+      encoding_(std::move(encoding)) {}
+
+CvtCallBackSettingFailure::CvtCallBackSettingFailure()
+    : CvtExceptionBase("fl:i18n:CvtCallBackSettingFailure", 3) {}
+
+CvtNonSupportedMode::CvtNonSupportedMode() : CvtExceptionBase("fl:i18n:CvtNonSupportedMode", 4) {}
+
+CvtInvalidCharacter::CvtInvalidCharacter()
+    : CvtExceptionBase("Invalid character code sequence detected.", 5) {}
+
+CvtSizeTooLarge::CvtSizeTooLarge()
+    : CvtExceptionBase("Data size too large for character code conversion.", 6) {}
+
+CvtConversionFailure::CvtConversionFailure() : CvtExceptionBase("Failed to convert character code.", 7) {}
+
+// Defined here, so that the virtual tables and type information live in this object file alone.
+CvtExceptionBase::~CvtExceptionBase() = default;
+CvtInvalidArgument::~CvtInvalidArgument() = default;
+CvtInvalidEncodingName::~CvtInvalidEncodingName() = default;
+CvtCallBackSettingFailure::~CvtCallBackSettingFailure() = default;
+CvtNonSupportedMode::~CvtNonSupportedMode() = default;
+CvtInvalidCharacter::~CvtInvalidCharacter() = default;
+CvtSizeTooLarge::~CvtSizeTooLarge() = default;
+CvtConversionFailure::~CvtConversionFailure() = default;
+
+} // namespace fl::i18n
