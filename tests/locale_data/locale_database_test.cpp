@@ -1,0 +1,123 @@
+#include "rows.hpp"
+
+#include <fl/i18n/locale_database.hpp>
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+long allocations = 0;
+long refused_allocation = LONG_MAX; ///< counted from 0; it and no other fails
+
+} // namespace
+
+// Not inlined, or the compiler takes the calls of free() for mismatched with the calls of operator new.
+[[gnu::noinline]] void* operator new(std::size_t size) {
+    void* const memory = allocations++ == refused_allocation ? nullptr : std::malloc(size > 0 ? size : 1);
+    if (memory == nullptr)
+        throw std::bad_alloc();
+    return memory;
+}
+
+[[gnu::noinline]] void operator delete(void* memory) noexcept {
+    std::free(memory);
+}
+[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept {
+    std::free(memory);
+}
+
+namespace fl::i18n::lcmgmt {
+namespace {
+
+locale_database const& database() {
+    static locale_database const instance;
+    return instance;
+}
+
+/// A result as text, with null told from empty.
+std::string shown(char const* text) {
+    return text == nullptr ? "(null)" : text;
+}
+
+// Canonical name, default encoding, XPG name.
+TEST(LocaleDatabase, ResolvesLocales) {
+    for (auto const& [name, canonical, encoding, xpg_name] :
+         rows<4>("~ ~ (null) (null)  xx_YY ~ UTF-8 (null)  ! ~ UTF-8 (null)  C en_US_POSIX US-ASCII C  "
+                 "en_US_POSIX en_US_POSIX US-ASCII C  C.UTF-8 ~ UTF-8 (null)  "
+                 "de de_DE ISO-8859-1 de_DE.ISO8859-1  iw he_IL UTF-8 he_IL.UTF-8  "
+                 "CS-cs cs_CZ ISO-8859-2 cs_CZ.ISO8859-2  en_UK en_GB ISO-8859-1 en_GB.ISO8859-1  "
+                 "in id_ID ISO-8859-1 (null)  hy_AM_REVISED hy_AM UTF-8 hy_AM.UTF-8  "
+                 "tzm_DZ tzm-Latn_DZ windows-1252 (null)  zh ~ UTF-8 (null)  "
+                 "zh-Hans-CN zh_CN GB2312 zh_CN.GB2312  sr_Latn sr-Latn_BA windows-1250 (null)  "
+                 "ja ja_JP Shift_JIS ja_JP.SJIS  de_AT.UTF-8@euro de_AT ISO-8859-1 de_AT.ISO8859-1  "
+                 "en_AI en_AI ISO-8859-1 (null)  ach ach_UG UTF-8 (null)  ee ee_EE ISO-8859-4 (null)  "
+                 "ny ny_NO ISO-8859-1 (null)")) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(database().get_locale_name(name), canonical);
+        EXPECT_EQ(shown(database().get_default_encoding_name(name)), encoding);
+        EXPECT_EQ(shown(database().get_xpg_name(name)), xpg_name);
+    }
+}
+
+TEST(LocaleDatabase, FetchesLookInOneMapOnly) {
+    EXPECT_EQ(shown(database().fetch_locale_map("ZH-HANT_tw")), "zh_TW");
+    EXPECT_EQ(shown(database().fetch_locale_map("zh_TW")), "(null)");
+    EXPECT_EQ(shown(database().fetch_default_encoding_name("de")), "(null)");
+    EXPECT_EQ(shown(database().fetch_locale_encoding_map("DE-de")), "ISO-8859-1");
+    EXPECT_EQ(shown(database().fetch_locale_xpg_name_map("ja")), "(null)");
+    EXPECT_EQ(database().get_optional_data_context("", "disable_l10n").value, "");
+    EXPECT_EQ(database().fetch_language_data_map("zh_TW.x").locale_name(), "zh_TW.Big5");
+}
+
+TEST(LocaleDatabase, EncodingNames) {
+    for (auto const& [name, standard, jvm] : rows<3>(
+             "UTF8 UTF-8 UTF-8  Sjis Shift_JIS MS932  no-such (null) (null)  Big5 Big5 MS950  "
+             "EUC-JP EUC-JP EUC-JP  ~ (null) (null)  CP1252 windows-1252 Cp1252  949 windows-949 MS949")) {
+        EXPECT_EQ(shown(database().get_standard_encoding_name(name)), standard) << name;
+        EXPECT_EQ(shown(database().get_jvm_encoding_name(name)), jvm) << name;
+    }
+    EXPECT_EQ(database().get_encoding_context("sjis"), database().fetch_encoding_entry_map("MS932"));
+}
+
+TEST(LocaleDatabase, PooledTextsStayWhereTheyAre) {
+    locale_database_context context;
+    char const* const pooled = context.store_character_data(std::string("text"));
+    for (int i = 0; i < 1000; ++i)
+        context.store_character_data(std::to_string(i));
+    EXPECT_STREQ(pooled, "text");
+    EXPECT_EQ(context.store_character_data("text"), pooled);
+}
+
+TEST(LocaleDatabase, LookUpsDoNotAllocate) {
+    database();
+    long const before = allocations;
+    database().get_default_encoding_name("de_DE");
+    database().get_xpg_name("ja");
+    database().get_standard_encoding_name("IBM-964_P110-1999");
+    database().get_encoding_context("a name that no small string buffer holds");
+    EXPECT_EQ(allocations, before);
+}
+
+// Whichever allocation fails, the object is built, says so, and answers.
+TEST(LocaleDatabase, FailedLoadIsAStatus) {
+    int failures = 0;
+    for (long refused = 0;; refused = refused * 2 + 1, ++failures) {
+        refused_allocation = allocations + refused;
+        locale_database const incomplete;
+        refused_allocation = LONG_MAX;
+        if (incomplete.get_init_status() == 0)
+            break;
+        EXPECT_EQ(incomplete.get_init_status(), 5);
+        EXPECT_EQ(incomplete.get_init_status_log(), "std::bad_alloc");
+        EXPECT_EQ(shown(incomplete.get_default_encoding_name("xx_YY")), "UTF-8");
+    }
+    EXPECT_GT(failures, 8);
+    EXPECT_EQ(database().get_init_status(), 0);
+}
+
+} // namespace
+} // namespace fl::i18n::lcmgmt

@@ -1,0 +1,25 @@
+/// Tables of test cases as one text: fields separated by blanks, "~" for an empty field.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace fl::i18n::lcmgmt {
+
+template <std::size_t Columns>
+std::vector<std::array<std::string, Columns>> rows(char const* text) {
+    std::vector<std::array<std::string, Columns>> result;
+    std::istringstream stream(text);
+    std::size_t count = 0;
+    for (std::string field; stream >> field; ++count) {
+        if (count % Columns == 0)
+            result.emplace_back();
+        result.back()[count % Columns] = field == "~" ? "" : field;
+    }
+    return result;
+}
+
+} // namespace fl::i18n::lcmgmt
