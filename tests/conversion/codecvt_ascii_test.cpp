@@ -1,0 +1,49 @@
+#include <fl/i18n/codecvt_ascii.hpp>
+#include <fl/i18n/cvt_exception.hpp>
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+using namespace fl::i18n;
+
+namespace {
+
+codecvt_ustring_to_ascii const strict_out(false), lax_out(true);
+codecvt_ascii_to_ustring const strict_in(false), lax_in(true);
+
+TEST(CodecvtAscii, EveryUnitBehindTexts) {
+    for (unsigned c = 0; c < 0x10000; c += c < 0x180 ? 1 : 0x7F) {
+        SCOPED_TRACE(c);
+        for (std::size_t const length : {0u, 63u, 64u}) {
+            std::string const bytes = std::string(length, 'x') + (c < 0x80 ? static_cast<char>(c) : '\xFF');
+            fl::ustring const units = fl::ustring(length, u'x') + static_cast<char16_t>(c);
+            EXPECT_EQ(bytes, lax_out.convert(units.data(), units.size()));
+            if (c < 0x80) {
+                EXPECT_EQ(bytes.size(), strict_out.get_destination_size(units.data(), units.size()));
+                EXPECT_EQ(units, strict_in.convert(bytes.data(), bytes.size()));
+                continue;
+            }
+            EXPECT_THROW(strict_out.convert(units.data(), units.size()), CvtInvalidCharacter);
+            EXPECT_THROW(strict_in.get_destination_size(bytes.data(), bytes.size()), CvtInvalidCharacter);
+            EXPECT_EQ(units.substr(0, length) + u'\uFFFD', lax_in.convert(bytes.data(), bytes.size()));
+        }
+    }
+    EXPECT_EQ(0u, strict_out.convert(nullptr, 4, u"abc", 3) + strict_in.convert(nullptr, 4, "abc", 3));
+}
+
+TEST(CodecvtAscii, WidensAndNarrowsInPlace) {
+    char16_t units[200];
+    char* const bytes = reinterpret_cast<char*>(units);
+    std::memset(bytes, 'q', 200);
+    strict_in.convert(units, 200, bytes, 200);
+    EXPECT_EQ(fl::ustring(200, u'q'), fl::ustring(units, 200));
+    strict_out.convert(bytes, 200, units, 200);
+    EXPECT_EQ(std::string(200, 'q'), std::string(bytes, 200));
+    EXPECT_EQ(3u, strict_out.convert(bytes, 3, u"ab\0\u00e9", 4)) << "what is not converted is not checked";
+    std::fill_n(units, 4, u'-');
+    EXPECT_THROW(strict_in.convert(units, 4, "a\xE9zz", 4), CvtInvalidCharacter);
+    EXPECT_EQ(u"--zz", fl::ustring(units, 4)) << "from the end";
+}
+
+} // namespace

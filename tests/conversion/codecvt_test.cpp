@@ -1,0 +1,147 @@
+#include <fl/i18n/code_points.hpp>
+#include <fl/i18n/codecvt.hpp>
+#include <fl/i18n/cvt_exception.hpp>
+
+#include <gtest/gtest.h>
+#include <unicode/ucnv.h>
+#include <unicode/uset.h>
+
+#include <memory>
+#include <random>
+
+using namespace fl::i18n;
+
+namespace {
+
+/// Random characters that the converter has, so that none is substituted.
+fl::ustring random_text(UConverter* cnv, std::size_t units) {
+    std::minstd_rand random(1);
+    UErrorCode status = U_ZERO_ERROR;
+    std::unique_ptr<USet, decltype(&uset_close)> const set(uset_openEmpty(), uset_close);
+    ucnv_getUnicodeSet(cnv, set.get(), UCNV_ROUNDTRIP_SET, &status);
+    uset_removeRange(set.get(), 0xD800, 0xDFFF);
+    auto const size = static_cast<unsigned>(uset_size(set.get()));
+    char32_t pool[500];
+    for (char32_t& c : pool)
+        c = static_cast<char32_t>(uset_charAt(set.get(), static_cast<std::int32_t>(random() % size)));
+    std::u32string text(units, U'\0');
+    for (char32_t& c : text)
+        c = pool[random() % 500];
+    return lcctype::codecvt_from_u32(text);
+}
+
+/// All operations against one bare ICU call over the whole text. Blocks of the exact size let a sanitizer see
+/// one unit too far.
+template <class To, class From, class Call>
+std::basic_string<To> expect_as_icu(converter<To, From> const& cvt, From const* text, std::size_t size,
+                                    Call call, std::string const& name, bool steady) {
+    auto const src = std::make_unique<From[]>(size);
+    std::copy_n(text, size, src.get());
+    std::basic_string<To> expected(size * 12 + 64, To());
+    UErrorCode status = U_ZERO_ERROR;
+    To* out = expected.data();
+    From const* in = src.get();
+    call(CvtCtx(name).handle(), &out, out + expected.size(), &in, in + size, nullptr, true, &status);
+    expected.resize(static_cast<std::size_t>(out - expected.data()));
+    EXPECT_TRUE(U_SUCCESS(status) && expected == cvt.convert(src.get(), size)) << size << " units";
+    for (std::size_t const room : {expected.size(), expected.size() / 2, std::size_t(0)}) {
+        auto const dst = std::make_unique<To[]>(room);
+        EXPECT_TRUE(!steady || (cvt.convert(dst.get(), room, src.get(), size) == expected.size() &&
+                                std::equal(dst.get(), dst.get() + room, expected.begin())))
+            << room << " of " << size;
+    }
+    return expected;
+}
+
+TEST(Codecvt, EveryIcuConverterGivesWhatABareCallGives) {
+    ASSERT_GT(ucnv_countAvailable(), 200);
+    for (int i = 0; i < ucnv_countAvailable(); ++i) {
+        std::string const name = ucnv_getAvailableName(i);
+        SCOPED_TRACE(name);
+        // What ICU itself answers for these depends on where a buffer ends, or on the conversion before.
+        bool const steady =
+            !name.starts_with("ISCII") && !name.starts_with("LMBCS") && name != "x11-compound-text";
+        fl::ustring const text = random_text(CvtCtx(name).handle(), 131074);
+        for (std::size_t size : {0u, 1u, 1023u, 1024u, 1025u, 1026u, 32767u, 32769u, 131073u}) {
+            size += size != 0 && (text[size - 1] & 0xFC00) == 0xD800; // no half of a pair at the end
+            auto const bytes =
+                expect_as_icu(codecvt_ustring_to_string(name, true), text.data(),
+                              steady || size < 30000 ? size : 0, ucnv_fromUnicode, name, steady);
+            expect_as_icu(codecvt_string_to_ustring(name, true), bytes.data(), bytes.size(), ucnv_toUnicode,
+                          name, steady);
+        }
+    }
+}
+
+template <class Strict, class Text, class Result>
+void expect_bad_text(char const* encoding, Text const& text, bool truncated, Result const& tolerant) {
+    SCOPED_TRACE(testing::PrintToString(text) + " and " + encoding);
+    Strict strict(encoding, false);
+    auto const convert = [&] { strict.convert(text.data(), text.size()); };
+    if (truncated)
+        EXPECT_THROW(convert(), CvtConversionFailure);
+    else
+        EXPECT_THROW(convert(), CvtInvalidCharacter);
+    EXPECT_EQ(3u, strict.get_destination_size(Text(3, 'x').data(), 3)) << "something is left of the failure";
+    strict.reset_call_back();
+    EXPECT_EQ(tolerant, strict.convert(text.data(), text.size()));
+    EXPECT_EQ(tolerant, Strict(encoding, true).convert(text.data(), text.size()));
+}
+
+TEST(Codecvt, BadTextRaisesOrIsSubstituted) {
+    auto const out = expect_bad_text<codecvt_ustring_to_string, fl::ustring, std::string>;
+    out("ISO-8859-1", u"a\u20acb", false, "a\x1a\x62");
+    out("UTF-8", u"a\xD800z", false, "a\xEF\xBF\xBDz");
+    out("UTF-8", u"a\xD800", true, "a\xEF\xBF\xBD");
+    out("ISO-8859-1", u"a\u200bz", false, "az"); // ICU drops invisible characters, strictness does not
+    auto const in = expect_bad_text<codecvt_string_to_ustring, std::string, fl::ustring>;
+    in("UTF-8", "a\xFFz", false, u"a\uFFFDz");
+    in("UTF-8", "a\xE3\x81", true, u"a\uFFFD");
+    in("ISO-2022-JP", "\x1B$B\x30\x21\xFF", true, u"\u4e9c\uFFFD"); // stops in two-byte mode
+    in("ISO-2022-JP", "a\x1B$Xb", true, u"a\uFFFD$Xb");
+}
+
+TEST(Codecvt, EmptyTextsBuffersAndModes) {
+    codecvt_ustring_to_string cvt(escape_java_call_back, "ISO-8859-1", "");
+    EXPECT_EQ("\\u20AC", cvt.convert(u"\u20ac", 1));
+    EXPECT_EQ(escape_java_call_back, cvt.get_call_back_mode());
+    EXPECT_EQ(6u, cvt.convert(nullptr, 9, u"\u20ac", 1));
+    EXPECT_EQ("", cvt.convert(nullptr, 5));
+    cvt.change_call_back(substitute_call_back, "?");
+    EXPECT_EQ("?", cvt.convert(u"\u20ac", 1));
+    EXPECT_EQ(no_call_back, cvt.get_call_back_mode());
+    EXPECT_EQ(u"\u20ac", codecvt_string_to_ustring(stop_call_back, "").convert("\xE2\x82\xAC", 3)) << "UTF-8";
+    EXPECT_THROW(codecvt_string_to_ustring(escape_java_call_back, "UTF-8"), CvtNonSupportedMode);
+    EXPECT_THROW(codecvt_ustring_to_string("no-such-encoding", true), CvtInvalidEncodingName);
+}
+
+template <class Codecvt>
+void expect_moves() {
+    Codecvt from("ISO-8859-1", false), to("UTF-8", true);
+    Codecvt moved(std::move(from));
+    to = std::move(moved);
+    EXPECT_EQ(stop_call_back, to.get_call_back_mode());
+    EXPECT_EQ(0u, to.get_destination_size(nullptr, 0));
+    EXPECT_EQ(no_call_back, moved.get_call_back_mode());
+    EXPECT_THROW(moved.convert(nullptr, 0), CvtConversionFailure);
+    EXPECT_THROW(from.get_destination_size(nullptr, 0), CvtConversionFailure);
+}
+
+TEST(Codecvt, MovedFromObjectsDoNotConvert) {
+    expect_moves<codecvt_ustring_to_string>();
+    expect_moves<codecvt_string_to_ustring>();
+}
+
+TEST(CodecvtJava, ModifiedUtf8) {
+    codecvt_ustring_to_java_nonstandard_utf8 const cvt;
+    fl::ustring text(u"a\0\u07ff\U00010000\xDC00", 6);
+    std::string bytes("a\xC0\x80\xDF\xBF\xED\xA0\x80\xED\xB0\x80\xED\xB0\x80", 14);
+    for (; text.size() < 50000; text += text, bytes += bytes) {
+        std::string half(bytes.size() / 2, ' ');
+        EXPECT_TRUE(bytes == cvt.convert(text.data(), text.size())) << text.size();
+        EXPECT_EQ(bytes.size(), cvt.convert(half.data(), half.size(), text.data(), text.size()));
+    }
+    EXPECT_THROW(cvt.convert(u"a", 0x80000000), CvtSizeTooLarge);
+}
+
+} // namespace

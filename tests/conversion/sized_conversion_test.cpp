@@ -1,0 +1,65 @@
+#include "conversion/sized_conversion.hpp"
+#include "support/sized_result.hpp"
+
+#include <fl/i18n/conversion_step.hpp>
+#include <fl/i18n/cvt_ctx.hpp>
+
+#include <gtest/gtest.h>
+
+using namespace fl::i18n;
+
+namespace {
+
+// Slices of a few units cut surrogate pairs, multi-byte characters and escape sequences everywhere.
+template <class To, class From>
+void expect_slices_do_not_show(detail::conversion_step<To, From> step, UConverter* cnv,
+                               std::basic_string<From> const& text, std::basic_string<To>& expected) {
+    auto const convert = [&](auto& dst, detail::slice_limits slices) {
+        return detail::convert_sized(step, cnv, dst.data(), dst.size(), text.data(), text.size(), slices);
+    };
+    expected.resize(200);
+    expected.resize(convert(expected, {1u << 30, 1u << 30}));
+    for (unsigned long i = 0; i < 4 * 9 * (expected.size() + 2); ++i) {
+        detail::slice_limits const slices{1 + i % 4, 1 + i / 4 % 9};
+        std::basic_string<To> some(i / 36, To());
+        EXPECT_EQ(expected.size(), convert(some, slices)) << i;
+        EXPECT_EQ(expected.substr(0, some.size()), some.substr(0, expected.size())) << i;
+    }
+}
+
+TEST(SizedConversion, AnySlicesGiveTheWholeConversion) {
+    for (char const* encoding : {"UTF-8", "UTF-16", "UTF-7", "GB18030", "Shift_JIS", "EUC-JP", "ISO-2022-JP",
+                                 "ISO-2022-KR", "ISO-2022-CN", "HZ-GB-2312", "CESU-8", "ISO-8859-1"}) {
+        SCOPED_TRACE(encoding);
+        CvtCtx const ctx(encoding);
+        std::string bytes;
+        fl::ustring back;
+        expect_slices_do_not_show(lcctype::stream_conversion_from_utf16, ctx.handle(),
+                                  fl::ustring(u"a\u00e9\U0001F600\u65e5b\uac00\U00020000\uff71\u4e00~z"),
+                                  bytes);
+        expect_slices_do_not_show(lcctype::stream_conversion_to_utf16, ctx.handle(), bytes, back);
+        EXPECT_GT(back.size(), 8u);
+    }
+}
+
+// The count may differ between passes; the last pass is the one that is believed. A row has a digit for each.
+TEST(SizedResult, ExactPassTrustsItsOwnCount) {
+    for (std::string const row : {"4", "55", "65", "566", "5676", "5678"}) {
+        std::size_t pass = 0;
+        auto const count = [&](char* dst, std::size_t capacity) {
+            std::size_t const size = static_cast<std::size_t>(row[pass] - '0') * 1000;
+            std::fill_n(dst, std::min(capacity, size), row[pass++]);
+            return size;
+        };
+        auto const convert = [&] {
+            return fl::support::sized_result<std::string>(9, count, [] { throw 1; });
+        };
+        if (row == "5678") // grows once too often
+            EXPECT_THROW(convert(), int);
+        else
+            EXPECT_EQ(std::string(static_cast<std::size_t>(row.back() - '0') * 1000, row.back()), convert());
+        EXPECT_EQ(row.size(), pass);
+    }
+}
+
+} // namespace
