@@ -1,0 +1,71 @@
+/// @file
+/// Files by `ustring` name.
+///
+/// `fopen` and `freopen` mirror the C library: they report by `errno` and a null pointer, also where a name
+/// can't be converted, and they never throw for bad input. The other functions throw the classes of
+/// <fl/filesystem/exceptions.hpp>.
+///
+///     if (std::FILE* file = fl::filesystem::fopen(u"notes.txt", "r")) ...
+///
+/// A name given as `ustring` is put in native form first and must not end in a separator; a `upath` is taken
+/// as it stands. Every function may be called from any thread.
+#pragma once
+
+#include <fl/filesystem/path.hpp>
+#include <fl/i18n/converter.hpp>
+#include <fl/i18n/export.hpp>
+#include <fl/i18n/ustring.hpp>
+
+#include <boost/date_time/posix_time/posix_time_types.hpp>
+#include <boost/noncopyable.hpp>
+
+#include <cstdio>
+#include <fstream>
+#include <string>
+
+namespace fl::filesystem {
+
+/// Opens the file `name`, `mode` as fopen(3) takes it, and returns the stream, to be closed by `std::fclose`.
+///
+/// Null on failure, with `errno`: `EINVAL` for a name that is empty or holds a zero unit, and for such a
+/// mode; `EISDIR` for a `ustring` that ends in a separator; else what fopen(3) sets. An unpaired surrogate
+/// goes to the system as the byte 26 (U+001A).
+FL_I18N_EXPORT std::FILE* fopen(ustring const& name, std::string const& mode);
+FL_I18N_EXPORT std::FILE* fopen(upath const& path, std::string const& mode);
+
+/// The same with the caller's conversion from name to bytes. A name that it refuses gives `ENAMETOOLONG` if
+/// the size is the reason, otherwise `ENOENT`; out of memory gives `ENOMEM`. `EINVAL` if a zero byte comes
+/// out. An exception that belongs neither to this library's families nor to memory passes through.
+FL_I18N_EXPORT std::FILE* fopen(ustring const& name, std::string const& mode,
+                                fl::i18n::converter<char, char16_t> const& to_bytes);
+FL_I18N_EXPORT std::FILE* fopen(upath const& path, std::string const& mode,
+                                fl::i18n::converter<char, char16_t> const& to_bytes);
+
+/// Opens the file in the place of `stream`'s, by freopen(3), with the failures of `fopen`. A null `stream`
+/// gives `EINVAL` before anything else. Where a name or mode is refused here, `stream` stays open; a failure
+/// of freopen(3) itself has closed it.
+FL_I18N_EXPORT std::FILE* freopen(ustring const& name, std::string const& mode, std::FILE* stream);
+FL_I18N_EXPORT std::FILE* freopen(upath const& path, std::string const& mode, std::FILE* stream);
+FL_I18N_EXPORT std::FILE* freopen(ustring const& name, std::string const& mode, std::FILE* stream,
+                                  fl::i18n::converter<char, char16_t> const& to_bytes);
+FL_I18N_EXPORT std::FILE* freopen(upath const& path, std::string const& mode, std::FILE* stream,
+                                  fl::i18n::converter<char, char16_t> const& to_bytes);
+
+/// Sets the time of last modification (UTC, to the microsecond); the time of access stays.
+///
+/// Throws `InvalidArgument` for an empty path ("Empty Path not permitted") and for not-a-date-time ("Time is
+/// not a ptime"), the exceptions of `detail::make_native_access_form`, and the class of the system's `errno`
+/// value, which is `SystemError` for an infinite time.
+FL_I18N_EXPORT void last_write_time(ustring const& name, boost::posix_time::ptime const& time);
+FL_I18N_EXPORT void last_write_time(upath const& path, boost::posix_time::ptime const& time);
+
+/// A stream for reading a file by its narrow name, as `detail::make_native_access_form_i18n` gives it. As its
+/// base, but it can be neither copied nor moved.
+template <class Char>
+class basic_ifstream : public std::basic_ifstream<Char>, private boost::noncopyable {
+public:
+    basic_ifstream() = default;
+    using std::basic_ifstream<Char>::basic_ifstream;
+};
+
+} // namespace fl::filesystem

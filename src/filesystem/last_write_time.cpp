@@ -1,0 +1,49 @@
+#include "filesystem/primitives/error_number.hpp"
+#include "platform/platform.hpp"
+#include "support/raise.hpp"
+
+#include <fl/filesystem/exceptions.hpp>
+#include <fl/filesystem/file.hpp>
+
+#include <cerrno>
+#include <cstdint>
+#include <sys/stat.h>
+
+namespace fl::filesystem {
+namespace {
+
+using boost::posix_time::ptime;
+
+/// Seconds are rounded down, so that the rest of a time before 1970 is not negative.
+std::timespec to_timespec(ptime const& time) noexcept {
+    static constexpr std::int64_t second = 1'000'000;
+    std::int64_t const count = (time - ptime(boost::gregorian::date(1970, 1, 1))).total_microseconds();
+    std::int64_t const rest = (count % second + second) % second;
+    std::timespec result{};
+    result.tv_sec = (count - rest) / second;
+    result.tv_nsec = rest * 1'000;
+    return result;
+}
+
+} // namespace
+
+void last_write_time(ustring const& name, ptime const& time) {
+    if (name.empty())
+        support::raise(InvalidArgument("Empty Path not permitted"));
+    if (time.is_not_a_date_time())
+        support::raise(InvalidArgument("Time is not a ptime", name));
+    std::string const bytes = detail::make_native_access_form(name, 1);
+    if (time.is_infinity())
+        detail::throw_errno(EOVERFLOW);
+    std::timespec unchanged{};
+    unchanged.tv_nsec = UTIME_OMIT;
+    int const error = platform::current().set_file_times(bytes, unchanged, to_timespec(time));
+    if (error != 0)
+        detail::throw_errno(error);
+}
+
+void last_write_time(upath const& path, ptime const& time) {
+    last_write_time(path.string(), time);
+}
+
+} // namespace fl::filesystem

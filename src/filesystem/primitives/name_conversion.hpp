@@ -1,0 +1,54 @@
+/// What all conversions of names by ICU share: lengths, and how the status is judged.
+#pragma once
+
+#include "support/icu_length.hpp"
+#include "support/raise.hpp"
+#include "support/sized_result.hpp"
+
+#include <fl/filesystem/exceptions.hpp>
+#include <fl/i18n/ustring.hpp>
+
+#include <unicode/utypes.h>
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace fl::filesystem::detail {
+
+/// Each byte as one unit: the text to show for a name that can't be converted.
+ustring widened(std::string_view name);
+
+/// Throws the exception for a failure status of the conversion of `name`.
+[[noreturn]] void throw_conversion_failure(UErrorCode status, std::u16string_view name);
+[[noreturn]] void throw_conversion_failure(UErrorCode status, std::string_view name);
+
+[[noreturn]] inline void throw_name_too_large() {
+    support::raise(FileNameTooLarge());
+}
+
+/// Runs `size = call(dst, capacity, src, src_length, status)` over `source`; the size is that of the whole
+/// result, also where it exceeds `capacity`.
+template <class To, class From, class Call>
+std::size_t convert_name(To* dst, std::size_t capacity, std::basic_string_view<From> source,
+                         Call const& call) {
+    if (source.empty())
+        return 0;
+    UErrorCode status = U_ZERO_ERROR;
+    std::int32_t const size = call(dst, support::to_icu_length(capacity, throw_name_too_large), source.data(),
+                                   support::to_icu_length(source.size(), throw_name_too_large), &status);
+    if (U_FAILURE(status) && status != U_BUFFER_OVERFLOW_ERROR)
+        throw_conversion_failure(status, source);
+    return support::from_icu_length(size, throw_name_too_large);
+}
+
+/// The whole result as a string.
+template <class To, class From, class Call>
+std::basic_string<To> converted_name(std::basic_string_view<From> source, Call const& call) {
+    return support::sized_result<std::basic_string<To>>(
+        source.size(),
+        [&](To* dst, std::size_t capacity) { return convert_name(dst, capacity, source, call); },
+        [] { support::raise(FileNameConversionFailure()); });
+}
+
+} // namespace fl::filesystem::detail
