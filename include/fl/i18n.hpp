@@ -1,0 +1,34 @@
+/// @file
+/// Everything of `fl::i18n`. Each family has a header of its own below <fl/i18n/>.
+#pragma once
+
+#include <fl/i18n/catalog_id.hpp>
+#include <fl/i18n/catalog_xml.hpp>
+#include <fl/i18n/character_class.hpp>
+#include <fl/i18n/code_points.hpp>
+#include <fl/i18n/codecvt.hpp>
+#include <fl/i18n/codecvt_ascii.hpp>
+#include <fl/i18n/codecvt_java.hpp>
+#include <fl/i18n/codecvt_wide.hpp>
+#include <fl/i18n/conversion_step.hpp>
+#include <fl/i18n/converter.hpp>
+#include <fl/i18n/cvt_ctx.hpp>
+#include <fl/i18n/cvt_exception.hpp>
+#include <fl/i18n/expat_loader.hpp>
+#include <fl/i18n/export.hpp>
+#include <fl/i18n/idbase.hpp>
+#include <fl/i18n/language_context.hpp>
+#include <fl/i18n/lc_data.hpp>
+#include <fl/i18n/locale.hpp>
+#include <fl/i18n/locale_context.hpp>
+#include <fl/i18n/locale_database.hpp>
+#include <fl/i18n/locale_exceptions.hpp>
+#include <fl/i18n/locale_fallback.hpp>
+#include <fl/i18n/locale_impl.hpp>
+#include <fl/i18n/locale_name.hpp>
+#include <fl/i18n/locale_tables.hpp>
+#include <fl/i18n/message_catalog.hpp>
+#include <fl/i18n/resource_finder.hpp>
+#include <fl/i18n/scan.hpp>
+#include <fl/i18n/string_conversion.hpp>
+#include <fl/i18n/ustring.hpp>

@@ -1,0 +1,342 @@
+/// @file
+/// Message catalogs: translated texts, looked up by identifier and locale.
+///
+/// A catalog is one XML file per locale. The process keeps one list of resource directories and one cache of
+/// loaded catalogs; both are reached through the static functions of `MessageCatalog`. A look-up finds the
+/// catalog's file for the locale, or for the nearest locale that has one, loads it once and shares the
+/// object.
+///
+///     using fl::i18n::MessageCatalog;
+///     MessageCatalog::MessageCatalogInit(fl::ustring(u"/opt/shop")); // has resources/shop/de/checkout.xml
+///     fl::ustring const text = MessageCatalog::get_message(fl::i18n::MessageID("shop:checkout:total"));
+///
+/// A text may have holes in the pattern language of ICU's `MessageFormat`, such as "{0} of {1}". They are
+/// filled by `GetFormattedMessage`, or by `get_message` when the identifier carries values. Numbers and dates
+/// in a hole always follow the rules of en_US_POSIX, so that a message does not depend on the user's locale
+/// twice.
+///
+/// Failures are exceptions, nested in `MessageCatalog`; each can be carried to another thread by a
+/// `boost::exception_ptr` or `std::exception_ptr`.
+#pragma once
+
+#include <fl/filesystem/path.hpp>
+#include <fl/i18n/catalog_id.hpp>
+#include <fl/i18n/export.hpp>
+#include <fl/i18n/idbase.hpp>
+#include <fl/i18n/ustring.hpp>
+
+#include <boost/noncopyable.hpp>
+
+#include <exception>
+#include <functional>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace fl::i18n {
+
+class QnLocale;
+class MessageCatalogFileLoader;
+class XMLCatalogDataStore;
+
+/// Fills holes in place: called with the list of all hole values and, for one hole, its custom type (empty if
+/// the name has none) and its number. It may write any element of the list. The reference in the pair is
+/// valid during the call only.
+using hole_fill_function =
+    std::function<void(std::vector<hole_value>&, std::pair<ustring const&, unsigned long const> const&)>;
+
+/// A loaded catalog, read-only, and the home of the process-wide catalog functions.
+///
+/// Any number of threads may use the operations of one object at once; they take no lock. The static
+/// functions are thread-safe too.
+class FL_I18N_EXPORT MessageCatalog : private boost::noncopyable {
+public:
+    /// No directory with resources was given, or none of those given exists.
+    class FL_I18N_EXPORT MessageCatalogIncorrectRoot;
+    /// An operation needs the list of resource locations before it was set.
+    class FL_I18N_EXPORT MessageCatalogNotInitialized;
+    /// A catalog has no file for the locale or its fallbacks, or the file does not load.
+    class FL_I18N_EXPORT MessageCatalogLoadFailed;
+    /// A catalog has no message of that key.
+    class FL_I18N_EXPORT MessageNotFound;
+    /// A message is no pattern that ICU accepts, nests holes deeper than 50 levels, mixes words and numbers
+    /// as names, or a value does not suit its hole.
+    class FL_I18N_EXPORT MessageFormatIncorrect;
+    /// The number of values differs from the number of holes.
+    class FL_I18N_EXPORT IncorrectHoleCount;
+    /// A resource location to remove was given as an empty path.
+    class FL_I18N_EXPORT InvalidPathSupplied;
+    /// A resource location to remove is no longer on the disk.
+    class FL_I18N_EXPORT ResDirNotPresent;
+    /// A resource location to remove is not among the additional ones.
+    class FL_I18N_EXPORT ResourcePathNotFound;
+    /// Removing a resource location failed half-way.
+    class FL_I18N_EXPORT ResPathRemovalUnknownError;
+
+    /// The text stored under `key`, raw: holes stay in it. Keys are compared byte by byte. There is no
+    /// fallback to another locale at this level: throws `MessageNotFound` if this catalog has no such key.
+    virtual ustring get_message_for_key(std::string const& key) const = 0;
+
+    /// All keys, in unspecified order.
+    virtual std::vector<std::string> get_all_keys() const = 0;
+
+    /// The locale whose directory the catalog came from: possibly a fallback of the one that was asked for.
+    virtual std::string get_locale_name() const = 0;
+
+    /// The text for `id.key` with the values that `id` carries in its holes, as by
+    /// `MessageCatalogImpl::getFormattedMessage`. Throws `MessageNotFound` if `id` names another catalog or
+    /// an unknown key, and `MessageFormatIncorrect` if the text cannot be formatted.
+    virtual ustring get_message_for_key(idbase::BaseMsgID const& id) const = 0;
+
+    /// The identifier of the catalog, as "component:name".
+    virtual std::string get_catalog_name() const = 0;
+
+    virtual ~MessageCatalog();
+
+    /// Sets the list of resource locations: for each root, in order, its directory "resources". A root
+    /// without one is skipped; an empty root stands for the current directory.
+    ///
+    /// The first success decides: later calls change nothing and return whether they describe the same list.
+    /// Throws `MessageCatalogIncorrectRoot`, and leaves the list empty, if no root survives.
+    static bool MessageCatalogInit(std::vector<ustring> const& roots);
+    /// The same for a single root.
+    static bool MessageCatalogInit(ustring const& root);
+    /// Sets the list, then loads `catalogs` for the global locale; null pointers are skipped. False also when
+    /// one of them does not load, and the rest is then not tried. Text that is no catalog identifier throws
+    /// `CatalogID::badCatalogIDException`.
+    static bool MessageCatalogInit(std::vector<ustring> const& roots,
+                                   std::vector<idbase::BaseCatalogID const*> const& catalogs);
+    /// The same for a single root.
+    static bool MessageCatalogInit(ustring const& root,
+                                   std::vector<idbase::BaseCatalogID const*> const& catalogs);
+
+    /// The catalog for `locale`, from the cache or else from the first file found for the locale, its parent,
+    /// and English. Uses the installation's resources if no location was set yet;
+    /// `MessageCatalogIncorrectRoot` if there are none. Throws `MessageCatalogLoadFailed` if there is no
+    /// file, or the one found does not load; a failure is not remembered.
+    static std::shared_ptr<MessageCatalog> GetMessageCatalog(CatalogID const& id, QnLocale const& locale);
+    /// The same for the global locale.
+    static std::shared_ptr<MessageCatalog> GetMessageCatalog(CatalogID const& id);
+
+    /// `GetMessageCatalog` for the catalog that `id` names; throws `CatalogID::badCatalogIDException` if its
+    /// text is not well-formed.
+    static std::shared_ptr<MessageCatalog> openCatalog(idbase::BaseCatalogID const& id,
+                                                       QnLocale const& locale);
+    /// The same for the global locale.
+    static std::shared_ptr<MessageCatalog> openCatalog(idbase::BaseCatalogID const& id);
+
+    /// The raw text of a message: holes stay in it. Throws as `GetMessageCatalog` does, and
+    /// `MessageNotFound`.
+    static ustring get_message(MessageID const& id, QnLocale const& locale);
+    /// The same for the global locale.
+    static ustring get_message(MessageID const& id);
+    /// The text of a message with the values that `id` carries in its holes, as by
+    /// `MessageCatalogImpl::getFormattedMessage`.
+    static ustring get_message(idbase::BaseMsgID const& id, QnLocale const& locale);
+    /// The same for the global locale.
+    static ustring get_message(idbase::BaseMsgID const& id);
+    /// The same for the classic locale, which is English.
+    static ustring get_default_locale_message(idbase::BaseMsgID const& id);
+
+    /// Forgets a catalog in all locales, so that the next look-up reads its file again. Objects that callers
+    /// hold stay valid. No error if the catalog is not loaded.
+    static void FlushCatalogFromCache(CatalogID const& id);
+
+    /// Fills the holes of `message`, checking their number.
+    ///
+    /// With numbered holes ("{0}", "{1_date}") the values go to the holes in the order of their numbers,
+    /// those of one number in the order of the pattern; equal names next to each other in that order count
+    /// once. So for
+    /// "{2} {0} {0}" the first value fills "{0}", the second "{2}". With named holes ("{name}") they go in
+    /// the order of the pattern, repeats included. A lone apostrophe stands for itself.
+    ///
+    /// Throws `IncorrectHoleCount` when the numbers of values and of holes differ, and
+    /// `MessageFormatIncorrect` when the pattern or a value is refused. A hole whose name begins with neither
+    /// a letter nor a digit throws `std::invalid_argument`, a number too large `std::out_of_range`.
+    static ustring GetFormattedMessage(ustring const& message, std::vector<hole_value> const& holes);
+
+    /// Fills the holes of `message` with values that a function provides: `fill` is called once for each
+    /// hole, in the order of the numbers, on a list of `holeCount` empty texts. Its exceptions pass through.
+    ///
+    /// A message with named holes takes no values by this form; it comes back unformatted if `holeCount` is
+    /// 0. Throws as the form above, and `MessageFormatIncorrect` if `holeCount` is not 0 and `fill` is empty.
+    static ustring GetFormattedMessage(ustring const& message, unsigned long holeCount,
+                                       hole_fill_function const& fill);
+
+    /// The custom type of hole `number`, as "date" for number 1 of "{1_date}"; empty if no hole of that
+    /// number has one. Throws `IncorrectHoleCount` if `number` exceeds the count of holes.
+    static ustring GetCustomHoleType(ustring const& message, unsigned long number);
+};
+
+class MessageCatalog::MessageCatalogIncorrectRoot : public std::exception {
+public:
+    MessageCatalogIncorrectRoot() noexcept = default;
+    MessageCatalogIncorrectRoot(MessageCatalogIncorrectRoot const&) noexcept = default;
+    MessageCatalogIncorrectRoot& operator=(MessageCatalogIncorrectRoot const&) noexcept = default;
+    ~MessageCatalogIncorrectRoot() override;
+    char const* what() const noexcept override;
+};
+
+class MessageCatalog::MessageCatalogNotInitialized : public std::exception {
+public:
+    MessageCatalogNotInitialized() noexcept = default;
+    MessageCatalogNotInitialized(MessageCatalogNotInitialized const&) noexcept = default;
+    MessageCatalogNotInitialized& operator=(MessageCatalogNotInitialized const&) noexcept = default;
+    ~MessageCatalogNotInitialized() override;
+    char const* what() const noexcept override;
+};
+
+class MessageCatalog::MessageCatalogLoadFailed : public std::exception {
+public:
+    explicit MessageCatalogLoadFailed(std::string const& catalog);
+    MessageCatalogLoadFailed(MessageCatalogLoadFailed const&) = default;
+    MessageCatalogLoadFailed& operator=(MessageCatalogLoadFailed const&) = default;
+    ~MessageCatalogLoadFailed() override;
+    /// Names the catalog; valid as long as this object.
+    char const* what() const noexcept override;
+
+private:
+    std::string text_;
+};
+
+class MessageCatalog::MessageNotFound : public std::exception {
+public:
+    MessageNotFound(std::string const& catalog, std::string const& key);
+    MessageNotFound(MessageNotFound const&) = default;
+    MessageNotFound& operator=(MessageNotFound const&) = default;
+    ~MessageNotFound() override;
+    /// Names the key and the catalog; valid as long as this object.
+    char const* what() const noexcept override;
+
+private:
+    std::string text_;
+};
+
+class MessageCatalog::MessageFormatIncorrect : public std::exception {
+public:
+    MessageFormatIncorrect() noexcept = default;
+    MessageFormatIncorrect(MessageFormatIncorrect const&) noexcept = default;
+    MessageFormatIncorrect& operator=(MessageFormatIncorrect const&) noexcept = default;
+    ~MessageFormatIncorrect() override;
+    char const* what() const noexcept override;
+};
+
+class MessageCatalog::IncorrectHoleCount : public std::exception {
+public:
+    /// `expected` is the number of holes, `found` the number of values.
+    IncorrectHoleCount(unsigned long expected, unsigned long found);
+    IncorrectHoleCount(IncorrectHoleCount const&) = default;
+    IncorrectHoleCount& operator=(IncorrectHoleCount const&) = default;
+    ~IncorrectHoleCount() override;
+    /// Names both numbers; valid as long as this object.
+    char const* what() const noexcept override;
+
+    unsigned long expected() const noexcept { return expected_; }
+    unsigned long found() const noexcept { return found_; }
+
+private:
+    unsigned long expected_;
+    unsigned long found_;
+    std::string text_;
+};
+
+class MessageCatalog::InvalidPathSupplied : public std::exception {
+public:
+    InvalidPathSupplied() noexcept = default;
+    InvalidPathSupplied(InvalidPathSupplied const&) noexcept = default;
+    InvalidPathSupplied& operator=(InvalidPathSupplied const&) noexcept = default;
+    ~InvalidPathSupplied() override;
+    char const* what() const noexcept override;
+};
+
+class MessageCatalog::ResDirNotPresent : public std::exception {
+public:
+    ResDirNotPresent() noexcept = default;
+    ResDirNotPresent(ResDirNotPresent const&) noexcept = default;
+    ResDirNotPresent& operator=(ResDirNotPresent const&) noexcept = default;
+    ~ResDirNotPresent() override;
+    char const* what() const noexcept override;
+};
+
+class MessageCatalog::ResourcePathNotFound : public std::exception {
+public:
+    ResourcePathNotFound() noexcept = default;
+    ResourcePathNotFound(ResourcePathNotFound const&) noexcept = default;
+    ResourcePathNotFound& operator=(ResourcePathNotFound const&) noexcept = default;
+    ~ResourcePathNotFound() override;
+    char const* what() const noexcept override;
+};
+
+class MessageCatalog::ResPathRemovalUnknownError : public std::exception {
+public:
+    explicit ResPathRemovalUnknownError(std::string const& error);
+    ResPathRemovalUnknownError(ResPathRemovalUnknownError const&) = default;
+    ResPathRemovalUnknownError& operator=(ResPathRemovalUnknownError const&) = default;
+    ~ResPathRemovalUnknownError() override;
+    /// Ends in the text of the error behind this one; valid as long as this object.
+    char const* what() const noexcept override;
+
+private:
+    std::string text_;
+};
+
+/// A catalog loaded from an XML file; see `<fl/i18n/catalog_xml.hpp>` for the format.
+class FL_I18N_EXPORT MessageCatalogImpl : public MessageCatalog {
+public:
+    /// Loads `path`. The two names are kept as given and not interpreted: `catalogName` is the identifier
+    /// that exceptions and `get_catalog_name` show. Throws `MessageCatalogLoadFailed` if the file is missing,
+    /// not readable or not a catalog.
+    MessageCatalogImpl(std::string const& catalogName, filesystem::upath const& path,
+                       std::string const& localeName);
+    ~MessageCatalogImpl() override;
+
+    /// Loads the file anew in place of what was loaded before; the constructor does this once. Not to be
+    /// called while another thread uses the object. Throws `MessageCatalogLoadFailed`, and then every look-up
+    /// does.
+    void initializeXMLCatalog();
+
+    ustring get_message_for_key(std::string const& key) const override;
+    std::vector<std::string> get_all_keys() const override;
+    std::string get_locale_name() const override;
+    ustring get_message_for_key(idbase::BaseMsgID const& id) const override;
+    std::string get_catalog_name() const override;
+
+    /// The directories that are searched for catalogs, in order, additional ones included. Throws
+    /// `MessageCatalogNotInitialized` if no location was set yet.
+    static std::vector<filesystem::upath> getTopLevelResourceLocations();
+
+    /// Fills the holes of `message` without checking their number: "{0}" takes the first value, "{1}" the
+    /// second; with any other name in the message, values go to holes as in
+    /// `MessageCatalog::GetFormattedMessage`. A hole without a value stays in the text, a value without a
+    /// hole is ignored. Throws `MessageFormatIncorrect`.
+    static ustring getFormattedMessage(ustring const& message, std::vector<hole_value> const& holes);
+
+    /// `MessageCatalog::GetFormattedMessage` if `strict`, else `getFormattedMessage`.
+    static ustring GetFormattedMessageImpl(ustring const& message, std::vector<hole_value> const& holes,
+                                           bool strict);
+
+    /// `MessageCatalog::GetFormattedMessage` with a function, on the caller's list of values. Throws
+    /// `std::bad_function_call` for an empty `fill` if there are holes to fill.
+    static ustring GetFormattedMessageImpl(ustring const& message, std::vector<hole_value>& holes,
+                                           hole_fill_function const& fill);
+
+private:
+    std::string catalogName_;
+    filesystem::upath path_;
+    std::string localeName_;
+    // In this order: the store goes before the loader that filled it.
+    std::unique_ptr<MessageCatalogFileLoader> fileLoader_;
+    std::unique_ptr<XMLCatalogDataStore> dataStore_;
+    bool loaded_ = false;
+};
+
+/// Helpers around catalog files.
+class FL_I18N_EXPORT MessageCatalogUtility {
+public:
+    /// Where the file of a catalog lies below a resource location, with "%S" for the locale: "a:b:c" gives
+    /// "a/%S/b/c.xml". Empty if `id` is empty, has no colon, or ends in one.
+    static ustring obtainXMLFilePathPattern(std::string const& id);
+};
+
+} // namespace fl::i18n

@@ -1,0 +1,176 @@
+#include "catalog/message_format.hpp"
+
+#include "support/raise.hpp"
+
+#include <fl/i18n/codecvt_ascii.hpp>
+#include <fl/i18n/message_catalog.hpp>
+
+#include <boost/numeric/conversion/cast.hpp>
+#include <unicode/fieldpos.h>
+#include <unicode/fmtable.h>
+#include <unicode/locid.h>
+#include <unicode/strenum.h>
+#include <unicode/uchar.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <utility>
+
+namespace fl::i18n::detail {
+namespace {
+
+void check(UErrorCode status) {
+    if (U_FAILURE(status))
+        support::raise(MessageCatalog::MessageFormatIncorrect());
+}
+
+std::int32_t icu_length(std::size_t length) {
+    return boost::numeric_cast<std::int32_t>(length);
+}
+
+/// ICU follows nested holes ("{0,select,other{...}}", two braces a level) by recursion, at some kilobytes of
+/// stack a level. No real message comes near this, and it fits the smallest stack of a thread.
+constexpr int deepest_nesting = 100;
+
+/// `pattern` has balanced quotes: a doubled apostrophe opens and closes at once.
+void check_nesting(icu::UnicodeString const& pattern) {
+    bool quoted = false;
+    int depth = 0;
+    for (std::int32_t i = 0; i < pattern.length(); ++i) {
+        char16_t const unit = pattern.charAt(i);
+        if (unit == u'\'')
+            quoted = !quoted;
+        else if (!quoted && (unit == u'{' || unit == u'}'))
+            depth += unit == u'{' ? 1 : -1;
+        if (depth > deepest_nesting)
+            support::raise(MessageCatalog::MessageFormatIncorrect());
+    }
+}
+
+/// The number at the start of a name; what follows the digits is not looked at, but has to be ASCII.
+unsigned long leading_number(char16_t const* name, std::int32_t length) {
+    codecvt_ustring_to_ascii const to_ascii(false);
+    return std::stoul(to_ascii.convert(name, static_cast<unsigned long>(length)));
+}
+
+hole_names names_in_pattern(icu::MessageFormat& format) {
+    UErrorCode status = U_ZERO_ERROR;
+    std::unique_ptr<icu::StringEnumeration> const names(format.getFormatNames(status));
+    check(status);
+    UErrorCode count_status = U_ZERO_ERROR;
+    auto const count = names->count(count_status);
+    check(count_status);
+    hole_names result;
+    result.reserve(static_cast<std::size_t>(count));
+    for (std::int32_t i = 0; i < count; ++i) {
+        UErrorCode next_status = U_ZERO_ERROR;
+        icu::UnicodeString const* const name = names->snext(next_status);
+        check(next_status);
+        result.push_back(*name);
+    }
+    return result;
+}
+
+hole_names sorted_by_number(hole_names const& names) {
+    // The numbers come first: a name without one has to be found also where there is nothing to compare.
+    std::vector<std::pair<unsigned long, icu::UnicodeString>> numbered;
+    numbered.reserve(names.size());
+    for (icu::UnicodeString const& name : names)
+        numbered.emplace_back(leading_number(name.getBuffer(), name.length()), name);
+    std::stable_sort(numbered.begin(), numbered.end(),
+                     [](auto const& a, auto const& b) { return a.first < b.first; });
+    hole_names result;
+    result.reserve(numbered.size());
+    for (auto& [number, name] : numbered) {
+        if (result.empty() || result.back() != name)
+            result.push_back(std::move(name));
+    }
+    return result;
+}
+
+icu::Formattable to_formattable(long long value) {
+    return icu::Formattable(static_cast<std::int64_t>(value));
+}
+
+icu::Formattable to_formattable(std::string const& value) {
+    return icu::Formattable(
+        icu::UnicodeString::fromUTF8(icu::StringPiece(value.data(), icu_length(value.size()))));
+}
+
+icu::Formattable to_formattable(ustring const& value) {
+    return icu::Formattable(
+        icu::UnicodeString(false, value.data(), icu_length(value.size()))); // copies the text
+}
+
+std::vector<icu::Formattable> to_formattables(std::vector<hole_value> const& holes) {
+    std::vector<icu::Formattable> result;
+    result.reserve(holes.size());
+    for (hole_value const& hole : holes)
+        result.push_back(std::visit([](auto const& value) { return to_formattable(value); }, hole));
+    return result;
+}
+
+icu::UnicodeString format_values(icu::MessageFormat const& format,
+                                 std::vector<icu::Formattable> const& values, hole_names const* names) {
+    icu::UnicodeString result;
+    UErrorCode status = U_ZERO_ERROR;
+    if (names && !values.empty()) {
+        // ICU reads as many names as it is given values.
+        auto const count = icu_length(std::min(values.size(), names->size()));
+        format.format(names->data(), values.data(), count, result, status);
+    } else {
+        icu::FieldPosition position;
+        auto const* const first = values.empty() ? nullptr : values.data();
+        format.format(first, icu_length(values.size()), result, position, status);
+    }
+    check(status);
+    return result;
+}
+
+} // namespace
+
+icu::MessageFormat makeMessageFormat(ustring const& message) {
+    icu::UnicodeString const text(false, message.data(), icu_length(message.size()));
+    UErrorCode quote_status = U_ZERO_ERROR;
+    auto const pattern = icu::MessageFormat::autoQuoteApostrophe(text, quote_status);
+    check(quote_status);
+    check_nesting(pattern);
+    UErrorCode status = U_ZERO_ERROR;
+    icu::MessageFormat format(pattern, icu::Locale("en", "US", "POSIX"), status);
+    check(status);
+    return format;
+}
+
+bool is_word(icu::UnicodeString const& name) {
+    return !name.isEmpty() && u_isalpha(name.char32At(0));
+}
+
+hole_names listHoleNames(icu::MessageFormat& format) {
+    hole_names names = names_in_pattern(format);
+    auto const words = std::count_if(names.begin(), names.end(), is_word);
+    if (words == 0)
+        return sorted_by_number(names);
+    if (static_cast<std::size_t>(words) != names.size())
+        support::raise(MessageCatalog::MessageFormatIncorrect());
+    return names;
+}
+
+hole_name_info parseHoleName(icu::UnicodeString const& name) {
+    auto const separator = name.indexOf(u'_');
+    bool const is_custom = separator > 0;
+    auto const number = leading_number(name.getBuffer(), is_custom ? separator : name.length());
+    ustring custom_type;
+    if (is_custom)
+        custom_type.assign(name.getBuffer() + separator + 1, name.getBuffer() + name.length());
+    return {std::move(custom_type), boost::numeric_cast<std::int32_t>(number)};
+}
+
+ustring formatHoles(icu::MessageFormat const& format, std::vector<hole_value> const& holes,
+                    hole_names const* names) {
+    auto const result = format_values(format, to_formattables(holes), names);
+    return {result.getBuffer(), static_cast<std::size_t>(result.length())};
+}
+
+} // namespace fl::i18n::detail
