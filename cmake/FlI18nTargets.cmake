@@ -25,6 +25,7 @@ function(fl_i18n_add_layer name)
   target_include_directories(fl_i18n_${name} PUBLIC
     "${PROJECT_SOURCE_DIR}/include" "${PROJECT_SOURCE_DIR}/src")
   target_link_libraries(fl_i18n_${name} PUBLIC fl_i18n_settings ${arg_DEPENDS})
+  target_compile_options(fl_i18n_${name} PRIVATE -fno-semantic-interposition)
   set_target_properties(fl_i18n_${name} PROPERTIES
     POSITION_INDEPENDENT_CODE ON
     CXX_EXTENSIONS OFF
