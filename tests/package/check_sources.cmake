@@ -1,0 +1,42 @@
+cmake_minimum_required(VERSION 3.25)
+
+# Rules that hold for every source file: ASCII only in the library, no tests of the operating system outside
+# src/platform, no ICU C++ or expat headers in public headers, umbrella headers that include their family.
+file(GLOB_RECURSE sources RELATIVE "${SOURCE_DIR}"
+  "${SOURCE_DIR}/include/*.hpp" "${SOURCE_DIR}/src/*.hpp" "${SOURCE_DIR}/src/*.cpp")
+list(LENGTH sources count)
+if(count LESS 50)
+  message(FATAL_ERROR "Only ${count} sources were found: the check looks in the wrong place.")
+endif()
+
+function(refuse file regex why)
+  file(STRINGS "${SOURCE_DIR}/${file}" lines REGEX "${regex}")
+  foreach(line IN LISTS lines)
+    message(SEND_ERROR "${file}: ${why}: ${line}")
+  endforeach()
+endfunction()
+
+foreach(file IN LISTS sources)
+  file(READ "${SOURCE_DIR}/${file}" hex HEX)
+  string(REGEX REPLACE "(..)" "\\1 " hex "${hex}")
+  if(hex MATCHES "[89a-f]. ")
+    message(SEND_ERROR "${file} holds bytes outside ASCII.")
+  endif()
+  if(NOT file MATCHES "^src/platform/")
+    refuse(${file} "^#.*(__APPLE__|__linux__|__unix__|_WIN32|__MACH__)" "asks for the operating system")
+  endif()
+  if(file MATCHES "^include/")
+    refuse(${file} "^#include <(expat|unicode/(unistr|locid|msgfmt|timezone|fmtable|uobject))" "drags in a private header")
+  endif()
+endforeach()
+
+foreach(family i18n filesystem)
+  file(READ "${SOURCE_DIR}/include/fl/${family}.hpp" umbrella)
+  file(GLOB headers RELATIVE "${SOURCE_DIR}/include" "${SOURCE_DIR}/include/fl/${family}/*.hpp")
+  foreach(header IN LISTS headers)
+    string(FIND "${umbrella}" "#include <${header}>" place)
+    if(place EQUAL -1)
+      message(SEND_ERROR "fl/${family}.hpp does not include ${header}.")
+    endif()
+  endforeach()
+endforeach()

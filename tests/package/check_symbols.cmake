@@ -1,0 +1,25 @@
+cmake_minimum_required(VERSION 3.25)
+
+# The library exports its interface and nothing else: no symbol outside namespace fl, but for what the standard
+# library and Boost must share between modules (their type information and template instances).
+execute_process(COMMAND "${NM}" --dynamic --defined-only --demangle "${LIBRARY}"
+  OUTPUT_VARIABLE output RESULT_VARIABLE result)
+if(NOT result EQUAL 0)
+  message(FATAL_ERROR "${NM} cannot read ${LIBRARY}")
+endif()
+string(REPLACE ";" "," output "${output}")
+string(REPLACE "\n" ";" lines "${output}")
+set(own 0)
+foreach(line IN LISTS lines)
+  if(line MATCHES " [TDBR] fl::")
+    math(EXPR own "${own} + 1")
+  elseif(line MATCHES " [TDBR] ")
+    message(SEND_ERROR "exported without need: ${line}")
+  endif()
+  if(line MATCHES " [TDBR] fl::(support|platform)::")
+    message(SEND_ERROR "an internal symbol is exported: ${line}")
+  endif()
+endforeach()
+if(own LESS 100)
+  message(FATAL_ERROR "Only ${own} symbols of the library were seen.")
+endif()
