@@ -17,7 +17,7 @@ void compare(std::string const& name, double limit, std::function<void(benchmark
 /// Prints a line of text behind the table of ratios.
 void remark(std::string const& text);
 
-/// Runs all that is registered, in random order, and prints the ratios. Returns the exit code.
-int run();
+/// Runs all that is registered, in random order, and prints the ratios.
+void run();
 
 } // namespace bench

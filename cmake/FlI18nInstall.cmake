@@ -1,22 +1,22 @@
 # The install tree is relocatable, and the library finds it from its own location:
 #
 #   bin/<platform>/   the shared library
-#   bin/lcdata.xml    corrections to the locale tables (shipped empty)
+#   bin/lcdata.xml    corrections to the locale tables (shipped empty; not read yet)
 #   resources/        message catalogs
 #   include/          public headers
 #   lib/cmake/fl_i18n, lib/pkgconfig
 
 include(CMakePackageConfigHelpers)
 
-set(fl_i18n_library_dir "${CMAKE_INSTALL_BINDIR}/${FL_I18N_PLATFORM_DIR}")
+set(fl_i18n_library_dir bin/${FL_I18N_PLATFORM_DIR})
 set(fl_i18n_package_dir lib/cmake/fl_i18n)
 
 install(TARGETS fl_i18n EXPORT fl_i18n_targets
   LIBRARY DESTINATION "${fl_i18n_library_dir}"
-  INCLUDES DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
-install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/fl" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
+  INCLUDES DESTINATION include)
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/fl" DESTINATION include
   FILES_MATCHING PATTERN "*.hpp")
-install(FILES "${PROJECT_SOURCE_DIR}/src/locale_data/lcdata.xml" DESTINATION "${CMAKE_INSTALL_BINDIR}")
+install(FILES "${PROJECT_SOURCE_DIR}/src/locale_data/lcdata.xml" DESTINATION bin)
 install(DIRECTORY DESTINATION resources)
 
 install(EXPORT fl_i18n_targets NAMESPACE fl:: FILE fl_i18nTargets.cmake DESTINATION "${fl_i18n_package_dir}")

@@ -9,6 +9,13 @@ target_compile_definitions(fl_i18n_settings INTERFACE
 if(FL_I18N_SANITIZE)
   target_compile_options(fl_i18n_settings INTERFACE -fsanitize=${FL_I18N_SANITIZE} -fno-sanitize-recover=all)
   target_link_options(fl_i18n_settings INTERFACE -fsanitize=${FL_I18N_SANITIZE})
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU") # instrumented code misleads its flow analysis
+    target_compile_options(fl_i18n_settings INTERFACE -Wno-maybe-uninitialized)
+  endif()
+endif()
+
+if(FL_I18N_BUILD_FUZZERS)
+  target_compile_options(fl_i18n_settings INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
 find_program(FL_I18N_CCACHE ccache)
@@ -25,7 +32,9 @@ function(fl_i18n_add_layer name)
   target_include_directories(fl_i18n_${name} PUBLIC
     "${PROJECT_SOURCE_DIR}/include" "${PROJECT_SOURCE_DIR}/src")
   target_link_libraries(fl_i18n_${name} PUBLIC fl_i18n_settings ${arg_DEPENDS})
-  target_compile_options(fl_i18n_${name} PRIVATE -fno-semantic-interposition)
+  if(NOT APPLE) # where no symbol can be replaced from outside anyway
+    target_compile_options(fl_i18n_${name} PRIVATE -fno-semantic-interposition)
+  endif()
   set_target_properties(fl_i18n_${name} PROPERTIES
     POSITION_INDEPENDENT_CODE ON
     CXX_EXTENSIONS OFF

@@ -1,5 +1,5 @@
-// Any bytes as a locale name: what parses renders to a name that parses to the same fields; making a locale
-// gives one or throws an exception of the locale family.
+// Any bytes as a locale name: what parses renders to a name and to a tag that parse and render to themselves;
+// making a locale gives one or throws an exception of the locale family.
 
 #include "fuzz.hpp"
 

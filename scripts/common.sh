@@ -28,9 +28,10 @@ install_debian() {
     fi
     local log
     log=$(mktemp)
-    if ! { "${sudo[@]}" apt-get update && "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive \
+    if ! { ${sudo[@]+"${sudo[@]}"} apt-get update && ${sudo[@]+"${sudo[@]}"} env DEBIAN_FRONTEND=noninteractive \
             apt-get install --yes --no-install-recommends "${missing[@]}"; } >"$log" 2>&1; then
         cat "$log" >&2
+        rm -f "$log"
         fail "apt-get could not install: ${missing[*]}"
     fi
     rm -f "$log"
@@ -46,11 +47,11 @@ install_brew() {
     brew install --quiet "${missing[@]}"
 }
 
-# Installs what the build needs, and the Debian packages named as further arguments. Silent if all is there.
+# Installs what the build needs; the arguments name further Debian packages. Silent if all is there.
 install_dependencies() {
     if [ "$(uname -s)" = Darwin ]; then
         command -v brew >/dev/null || fail "Homebrew is needed on macOS: see https://brew.sh"
-        install_brew "${brew_formulas[@]}"
+        install_brew "${brew_formulas[@]}" gettext
     elif command -v apt-get >/dev/null; then
         install_debian "${debian_packages[@]}" "$@"
     else
@@ -83,5 +84,5 @@ build() {
     shift
     local targets=()
     [ $# -eq 0 ] || targets=(--target "$@")
-    (cd "$root" && quietly cmake --build --preset "$preset" "${targets[@]}")
+    (cd "$root" && quietly cmake --build --preset "$preset" ${targets[@]+"${targets[@]}"})
 }

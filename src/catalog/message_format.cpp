@@ -14,8 +14,10 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace fl::i18n::detail {
@@ -30,21 +32,29 @@ std::int32_t icu_length(std::size_t length) {
     return boost::numeric_cast<std::int32_t>(length);
 }
 
-/// ICU follows nested holes ("{0,select,other{...}}", two braces a level) by recursion, at some kilobytes of
-/// stack a level. No real message comes near this, and it fits the smallest stack of a thread.
-constexpr int deepest_nesting = 100;
+/// ICU follows arguments within arguments ("{0,select,other{...}}") by recursion, at some kilobytes of stack a
+/// level. This many fit a thread with a stack of 256 KB, and no real message comes near.
+constexpr int most_complex_arguments = 50;
 
-/// `pattern` has balanced quotes: a doubled apostrophe opens and closes at once.
-void check_nesting(icu::UnicodeString const& pattern) {
-    bool quoted = false;
-    int depth = 0;
-    for (std::int32_t i = 0; i < pattern.length(); ++i) {
-        char16_t const unit = pattern.charAt(i);
-        if (unit == u'\'')
-            quoted = !quoted;
-        else if (!quoted && (unit == u'{' || unit == u'}'))
-            depth += unit == u'{' ? 1 : -1;
-        if (depth > deepest_nesting)
+/// True if one of the words that begin an argument with patterns in it stands at the start of `text`.
+/// "selectordinal" begins with one of them.
+bool begins_complex_argument(icu::UnicodeString const& text) {
+    static constexpr std::u16string_view words[] = {u"select", u"plural", u"choice"};
+    return std::any_of(std::begin(words), std::end(words), [&](std::u16string_view word) {
+        auto const length = static_cast<std::int32_t>(word.size());
+        return text.caseCompare(0, length, word.data(), 0, length, U_FOLD_CASE_DEFAULT) == 0;
+    });
+}
+
+/// Each level of arguments takes such a word behind a comma. They are counted wherever they stand, side by side
+/// too: only ICU knows what is quoted.
+void check_complexity(icu::UnicodeString const& pattern) {
+    int count = 0;
+    for (std::int32_t comma = pattern.indexOf(u','); comma >= 0; comma = pattern.indexOf(u',', comma + 1)) {
+        std::int32_t word = comma + 1;
+        while (u_hasBinaryProperty(pattern.char32At(word), UCHAR_PATTERN_WHITE_SPACE))
+            ++word;
+        if (begins_complex_argument(pattern.tempSubString(word, 6)) && ++count > most_complex_arguments)
             support::raise(MessageCatalog::MessageFormatIncorrect());
     }
 }
@@ -136,7 +146,7 @@ icu::MessageFormat makeMessageFormat(ustring const& message) {
     UErrorCode quote_status = U_ZERO_ERROR;
     auto const pattern = icu::MessageFormat::autoQuoteApostrophe(text, quote_status);
     check(quote_status);
-    check_nesting(pattern);
+    check_complexity(pattern);
     UErrorCode status = U_ZERO_ERROR;
     icu::MessageFormat format(pattern, icu::Locale("en", "US", "POSIX"), status);
     check(status);

@@ -16,10 +16,6 @@ namespace upath_constant = filesystem::upath_constant;
 
 constexpr char16_t default_marker[] = u"%S";
 
-ustring widen(std::string const& name) {
-    return ustring(name.begin(), name.end());
-}
-
 std::string narrow(ustring const& name) {
     std::string result(name.size(), '\0');
     std::transform(name.begin(), name.end(), result.begin(),
@@ -27,12 +23,9 @@ std::string narrow(ustring const& name) {
     return result;
 }
 
+/// Without the fallback to the classic language, the file without a locale comes last.
 std::vector<ustring> make_locale_list(QnLocale const& locale, bool use_fallback) {
-    static ustring const classic_language =
-        widen(QnLocale::classic().language(QnLocale::messages, QnLocale::language_with_script));
-    std::vector<ustring> list;
-    make_locale_fallback_list(list, locale, use_fallback ? classic_language : ustring());
-    return list;
+    return use_fallback ? get_fallback_locales(locale) : get_fallback_locales_with_empty_default(locale);
 }
 
 ustring marker_or_default(ustring const& marker) {

@@ -3,9 +3,11 @@
 #include "support/raise.hpp"
 
 #include <boost/numeric/conversion/cast.hpp>
-#include <unicode/ustring.h>
+#include <unicode/utf16.h>
+#include <unicode/utf8.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <cstring>
 #include <new>
@@ -32,17 +34,35 @@ std::int32_t widen_ascii(char const* bytes, std::int32_t length, char16_t* units
     return done;
 }
 
-/// Writes at most one unit for each byte; the number of units written.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wconversion" // in ICU's macros
+
+/// Writes at most one unit for each byte; the number of units written. Each ill-formed sequence becomes U+FFFD.
 std::int32_t decode_utf8(char const* bytes, std::int32_t length, char16_t* units) noexcept {
-    auto const ascii = widen_ascii(bytes, length, units);
-    std::int32_t rest = 0;
-    UErrorCode status = U_ZERO_ERROR;
-    u_strFromUTF8WithSub(units + ascii, length - ascii, &rest, bytes + ascii, length - ascii, 0xFFFD, nullptr,
-                         &status);
-    return ascii + rest;
+    std::int32_t written = 0;
+    for (std::int32_t read = 0; read < length;) {
+        std::int32_t const ascii = widen_ascii(bytes + read, length - read, units + written);
+        read += ascii;
+        written += ascii;
+        for (std::int32_t const stop = std::min(length, read + block_size); read < stop;) {
+            UChar32 c = 0;
+            U8_NEXT_OR_FFFD(bytes, read, length, c);
+            U16_APPEND_UNSAFE(units, written, c);
+        }
+    }
+    return written;
 }
 
+#pragma GCC diagnostic pop
+
+/// Texts of the usual length are decoded aside first, so that each takes just the room of its units: a short one
+/// fits into the object itself.
 void assign_utf8(icu::UnicodeString& text, char const* bytes, std::int32_t length) {
+    std::array<char16_t, 512> aside;
+    if (length <= static_cast<std::int32_t>(aside.size())) {
+        text.setTo(aside.data(), decode_utf8(bytes, length, aside.data()));
+        return;
+    }
     char16_t* const units = text.getBuffer(length);
     if (!units)
         support::raise(std::bad_alloc());

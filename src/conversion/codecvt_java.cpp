@@ -37,7 +37,7 @@ unsigned long codecvt_ustring_to_java_nonstandard_utf8::do_convert(char* dst, un
     UErrorCode status = U_ZERO_ERROR;
     u_strToJavaModifiedUTF8(dst, capacity, &size, src, length, &status);
     detail::check_conversion_status(status, src_len, detail::long_utf16_source);
-    return support::from_icu_length(size, too_large);
+    return support::from_icu_length(size, src ? src_len : 0, too_large);
 }
 
 } // namespace fl::i18n

@@ -10,6 +10,8 @@ namespace {
 
 /// ICU's own name of the converter that it opens for `name`; empty if there is none.
 std::string converter_name(std::string const& name) {
+    if (name.find('\0') != std::string::npos)
+        return std::string();
     UErrorCode status = U_ZERO_ERROR;
     std::unique_ptr<UConverter, lcctype::converter_close> const cnv(ucnv_open(name.c_str(), &status));
     if (U_FAILURE(status) || !cnv)

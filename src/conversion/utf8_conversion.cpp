@@ -40,7 +40,7 @@ std::size_t to_utf8(char* dst, std::size_t capacity, char16_t const* src, std::s
     u_strToUTF8WithSub(dst, support::to_icu_length(capacity, too_large), &size, src,
                        support::to_icu_length(src_len, too_large), replacement_character, nullptr, &status);
     detail::check_conversion_status(status, src_len, detail::long_utf16_source);
-    return support::from_icu_length(size, too_large);
+    return support::from_icu_length(size, 0, too_large);
 }
 
 std::size_t from_utf8(char16_t* dst, std::size_t capacity, char const* src, std::size_t src_len) {
@@ -49,7 +49,7 @@ std::size_t from_utf8(char16_t* dst, std::size_t capacity, char const* src, std:
     u_strFromUTF8WithSub(dst, support::to_icu_length(capacity, too_large), &size, src,
                          support::to_icu_length(src_len, too_large), replacement_character, nullptr, &status);
     detail::check_conversion_status(status, src_len, detail::long_narrow_source);
-    return support::from_icu_length(size, too_large);
+    return support::from_icu_length(size, 0, too_large);
 }
 
 } // namespace

@@ -10,7 +10,7 @@ namespace {
 using tables::aliases;
 using tables::encoding_row;
 
-constexpr encoding_name_entry encoding_entries[] = {
+constexpr tables::encoding_name_row encoding_entries[] = {
     encoding_row("Big5", "MS950", aliases<"MS950", "950">),
     encoding_row("Big5-HKSCS", "-", aliases<"Big5HKSCS">),
     encoding_row("CP1131", "-", aliases<"ibm-1131_P100-1997">),

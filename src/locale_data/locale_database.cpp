@@ -58,7 +58,7 @@ char const* locale_database::fetch_locale_xpg_name_map(std::string_view name) co
     return find_text(context_.locale_xpg_name_map, locale_key(name));
 }
 
-std::shared_ptr<encoding_entry_context const>
+std::shared_ptr<encoding_entry_context>
 locale_database::fetch_encoding_entry_map(std::string_view name) const {
     auto const* const entry = find_value(context_.encoding_entry_map, encoding_key(name));
     return entry == nullptr ? nullptr : *entry;
@@ -110,8 +110,7 @@ char const* locale_database::get_xpg_name(std::string_view name) const {
     return canonical.empty() ? nullptr : fetch_locale_xpg_name_map(canonical);
 }
 
-std::shared_ptr<encoding_entry_context const>
-locale_database::get_encoding_context(std::string_view name) const {
+std::shared_ptr<encoding_entry_context> locale_database::get_encoding_context(std::string_view name) const {
     return fetch_encoding_entry_map(name);
 }
 

@@ -8,11 +8,11 @@ namespace {
 
 using tables::locale_encoding_row;
 
-constexpr locale_key_entry common_locale_encodings[] = {
+constexpr tables::locale_key_row common_locale_encodings[] = {
     locale_encoding_row("en", "-", "US", "US-ASCII", "_POSIX"),
 };
 
-constexpr locale_key_entry locale_encodings[] = {
+constexpr tables::locale_key_row locale_encodings[] = {
     locale_encoding_row("aa", "-", "ER", "UTF-8"),
     locale_encoding_row("aa", "-", "ET", "UTF-8"),
     locale_encoding_row("am", "-", "ET", "UTF-8"),

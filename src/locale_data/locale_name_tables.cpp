@@ -11,7 +11,7 @@ namespace {
 using tables::literal_row;
 using tables::locale_row;
 
-constexpr locale_name_entry locale_entries[] = {
+constexpr tables::locale_name_row locale_entries[] = {
     literal_row("C", "en_US_POSIX"),
     literal_row("POSIX", "en_US_POSIX"),
     locale_row("en", "-", "US", "en_US_POSIX", "_POSIX"),

@@ -1,6 +1,5 @@
 /// Makes table rows out of names while compiling, so that the tables can be written with names and hold
-/// indices.
-/// "-" stands for none. A name that its name table lacks doesn't compile.
+/// indices. "-" stands for none. A name that its name table lacks doesn't compile.
 #pragma once
 
 #include "locale_data/encoding_name_tables.hpp"
@@ -15,9 +14,56 @@
 #include <array>
 #include <cstddef>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace fl::i18n::lcmgmt::tables {
+
+// The records of <fl/i18n/locale_tables.hpp> as constant data. They turn into those where they are handed out.
+
+struct encoding_name_row {
+    unsigned short encoding;
+    unsigned short jvm_name;
+    std::span<unsigned short const> aliases;
+
+    operator encoding_name_entry() const { return {encoding, jvm_name, {aliases.begin(), aliases.end()}}; }
+};
+
+struct locale_name_row {
+    std::string_view literal_key;
+    std::string_view language_text;
+    std::string_view script_text;
+    std::string_view region_text;
+    unsigned short language;
+    unsigned short script;
+    unsigned short region;
+    std::string_view suffix;
+    char separator;
+    unsigned short value;
+
+    operator locale_name_entry() const {
+        return {std::string(literal_key),
+                std::string(language_text),
+                std::string(script_text),
+                std::string(region_text),
+                language,
+                script,
+                region,
+                std::string(suffix),
+                separator,
+                value};
+    }
+};
+
+struct locale_key_row {
+    unsigned short language;
+    unsigned short script;
+    unsigned short region;
+    std::string_view suffix;
+    unsigned short value;
+
+    operator locale_key_entry() const { return {language, script, region, std::string(suffix), value}; }
+};
 
 inline constexpr unsigned short none = 0xFFFF;
 inline constexpr unsigned char preferred = 1;
@@ -54,12 +100,12 @@ template <literal... Names>
 inline constexpr std::array<unsigned short, sizeof...(Names)> aliases = {
     index_of(encoding_alias_names, Names.text)...};
 
-consteval encoding_name_entry encoding_row(std::string_view name, std::string_view jvm_name,
-                                           std::span<unsigned short const> alias_indices) {
+consteval encoding_name_row encoding_row(std::string_view name, std::string_view jvm_name,
+                                         std::span<unsigned short const> alias_indices) {
     return {index_of(encoding_names, name), index_of(encoding_alias_names, jvm_name), alias_indices};
 }
 
-consteval locale_name_entry literal_row(std::string_view key, std::string_view value) {
+consteval locale_name_row literal_row(std::string_view key, std::string_view value) {
     return {key, {}, {}, {}, none, none, none, {}, '_', index_of(locale_names, value)};
 }
 
@@ -68,9 +114,9 @@ constexpr std::string_view unlisted(unsigned short index, std::string_view name)
     return index == none && name != "-" ? name : std::string_view();
 }
 
-consteval locale_name_entry locale_row(std::string_view language, std::string_view script,
-                                       std::string_view region, std::string_view value,
-                                       std::string_view suffix = {}) {
+consteval locale_name_row locale_row(std::string_view language, std::string_view script,
+                                     std::string_view region, std::string_view value,
+                                     std::string_view suffix = {}) {
     unsigned short const language_index = find_index(language_names, language);
     unsigned short const script_index = find_index(script_names, script);
     unsigned short const region_index = find_index(region_names, region);
@@ -86,15 +132,15 @@ consteval locale_name_entry locale_row(std::string_view language, std::string_vi
             index_of(locale_names, value)};
 }
 
-consteval locale_key_entry locale_encoding_row(std::string_view language, std::string_view script,
-                                               std::string_view region, std::string_view encoding,
-                                               std::string_view suffix = {}) {
+consteval locale_key_row locale_encoding_row(std::string_view language, std::string_view script,
+                                             std::string_view region, std::string_view encoding,
+                                             std::string_view suffix = {}) {
     return {index_of(language_names, language), index_of(script_names, script),
             index_of(region_names, region), suffix, index_of(encoding_names, encoding)};
 }
 
-consteval locale_key_entry xpg_row(std::string_view language, std::string_view region, std::string_view value,
-                                   std::string_view suffix = {}) {
+consteval locale_key_row xpg_row(std::string_view language, std::string_view region, std::string_view value,
+                                 std::string_view suffix = {}) {
     return {index_of(language_names, language), none, index_of(region_names, region), suffix,
             index_of(xpg_names, value)};
 }

@@ -8,7 +8,7 @@ namespace {
 
 using tables::xpg_row;
 
-constexpr locale_key_entry xpg_entries[] = {
+constexpr tables::locale_key_row xpg_entries[] = {
     xpg_row("af", "ZA", "af_ZA.ISO8859-1"),  xpg_row("am", "ET", "am_ET.UTF-8"),
     xpg_row("be", "BY", "be_BY.CP1251"),     xpg_row("bg", "BG", "bg_BG.CP1251"),
     xpg_row("ca", "ES", "ca_ES.ISO8859-1"),  xpg_row("cs", "CZ", "cs_CZ.ISO8859-2"),

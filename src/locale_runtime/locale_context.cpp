@@ -71,8 +71,9 @@ void QnLocaleCtx::make_classic_slot() {
     auto locale = std::make_unique<QnLocaleImpl>(database_);
     locale->setLcName(built_in_locale, "");
     locale->setEncoding(built_in_encoding);
-    classic_ = locale.get();
+    QnLocale const* const made = locale.get();
     append_slot(std::make_unique<global_locale_slot>(std::move(locale)));
+    classic_ = made; // not earlier: where there is no slot there is no locale
     system_.store(classic_, std::memory_order_release);
 }
 

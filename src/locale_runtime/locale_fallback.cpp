@@ -1,3 +1,5 @@
+#include "support/once_value.hpp"
+
 #include <fl/i18n/locale.hpp>
 #include <fl/i18n/locale_fallback.hpp>
 
@@ -26,9 +28,10 @@ void append_fallback_list(std::vector<String>& list, String const& name, String 
 }
 
 ustring const& classic_language() {
-    static ustring const language =
-        widen(QnLocale::classic().language(QnLocale::messages, QnLocale::language_with_script));
-    return language;
+    constinit static support::once_value<ustring> language;
+    return language.get([] {
+        return widen(QnLocale::classic().language(QnLocale::messages, QnLocale::language_with_script));
+    });
 }
 
 } // namespace

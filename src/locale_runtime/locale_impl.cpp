@@ -48,6 +48,9 @@ QnLocaleImpl::QnLocaleImpl(QnLocale const& other) : QnLocaleImpl(lcmgmt::get_qnl
     terminal_encoding_ = std::get<std::string>(other.getLcOptData(QnLcOptDataCtx::terminal_encoding));
 }
 
+// Overload resolution prefers it, deleted or not, to the constructor above.
+QnLocaleImpl::QnLocaleImpl(QnLocaleImpl const& other) : QnLocaleImpl(static_cast<QnLocale const&>(other)) {}
+
 QnLocaleImpl::~QnLocaleImpl() = default;
 
 void QnLocaleImpl::setLcName(std::string const& name, std::string const& modifier) {

@@ -18,11 +18,12 @@ std::int32_t to_icu_length(std::size_t length, TooLarge&& too_large) {
     return static_cast<std::int32_t>(length);
 }
 
-/// A length that ICU has reported. Calls `too_large()`, which must throw, for a negative one: ICU counted
-/// past its range.
+/// A length that ICU has reported, of a result that is no shorter than `at_least`. Calls `too_large()`, which
+/// must throw, for a negative or a shorter one: ICU counted past its range, once or all around. A count of
+/// three bytes for each unit can come round to a positive one, but not to one of a byte for each.
 template <class TooLarge>
-std::size_t from_icu_length(std::int32_t length, TooLarge&& too_large) {
-    if (length < 0)
+std::size_t from_icu_length(std::int32_t length, std::size_t at_least, TooLarge&& too_large) {
+    if (length < 0 || static_cast<std::size_t>(length) < at_least)
         too_large();
     return static_cast<std::size_t>(length);
 }

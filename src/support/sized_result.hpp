@@ -38,6 +38,9 @@ template <class String, class Convert, class Unstable>
             result.resize(size);
             return result;
         }
+        // Some converters of ICU lose units where a buffer ends, so that the count is low again. Room to
+        // spare keeps the end of the buffer out of the text.
+        size += size / 16 + 64;
     }
     unstable();
     return String();

@@ -8,14 +8,13 @@
 
 namespace fl::testing {
 
-/// The text of the `E` that `action` throws, in the form that can travel to another thread.
-template <class E, class Action>
-std::string failure(Action&& action) {
+/// The text of the `E` that `action(arguments...)` throws, in the form that can travel to another thread.
+template <class E, class Action, class... Arguments>
+std::string failure(Action const& action, Arguments const&... arguments) {
     try {
-        action();
-    } catch (E const& caught) {
-        return typeid(caught) == typeid(boost::exception_detail::clone_impl<E>) ? caught.what()
-                                                                                : "not cloneable";
+        action(arguments...);
+    } catch (E const& e) {
+        return typeid(e) == typeid(boost::exception_detail::clone_impl<E>) ? e.what() : "not cloneable";
     }
     return "nothing thrown";
 }

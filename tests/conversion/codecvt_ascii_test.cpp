@@ -7,15 +7,13 @@
 
 using namespace fl::i18n;
 
-namespace {
-
-codecvt_ustring_to_ascii const strict_out(false), lax_out(true);
-codecvt_ascii_to_ustring const strict_in(false), lax_in(true);
+static codecvt_ustring_to_ascii const strict_out(false), lax_out(true);
+static codecvt_ascii_to_ustring const strict_in(false), lax_in(true);
 
 TEST(CodecvtAscii, EveryUnitBehindTexts) {
-    for (unsigned c = 0; c < 0x10000; c += c < 0x180 ? 1 : 0x7F) {
-        SCOPED_TRACE(c);
+    for (unsigned c = 0; c < 0x10000; c += c < 0x180 ? 1 : 0x7F)
         for (std::size_t const length : {0u, 63u, 64u}) {
+            SCOPED_TRACE(c);
             std::string const bytes = std::string(length, 'x') + (c < 0x80 ? static_cast<char>(c) : '\xFF');
             fl::ustring const units = fl::ustring(length, u'x') + static_cast<char16_t>(c);
             EXPECT_EQ(bytes, lax_out.convert(units.data(), units.size()));
@@ -28,7 +26,6 @@ TEST(CodecvtAscii, EveryUnitBehindTexts) {
             EXPECT_THROW(strict_in.get_destination_size(bytes.data(), bytes.size()), CvtInvalidCharacter);
             EXPECT_EQ(units.substr(0, length) + u'\uFFFD', lax_in.convert(bytes.data(), bytes.size()));
         }
-    }
     EXPECT_EQ(0u, strict_out.convert(nullptr, 4, u"abc", 3) + strict_in.convert(nullptr, 4, "abc", 3));
 }
 
@@ -45,5 +42,3 @@ TEST(CodecvtAscii, WidensAndNarrowsInPlace) {
     EXPECT_THROW(strict_in.convert(units, 4, "a\xE9zz", 4), CvtInvalidCharacter);
     EXPECT_EQ(u"--zz", fl::ustring(units, 4)) << "from the end";
 }
-
-} // namespace

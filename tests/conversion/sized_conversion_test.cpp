@@ -8,12 +8,10 @@
 
 using namespace fl::i18n;
 
-namespace {
-
 // Slices of a few units cut surrogate pairs, multi-byte characters and escape sequences everywhere.
 template <class To, class From>
-void expect_slices_do_not_show(detail::conversion_step<To, From> step, UConverter* cnv,
-                               std::basic_string<From> const& text, std::basic_string<To>& expected) {
+static void expect_slices_do_not_show(detail::conversion_step<To, From> step, UConverter* cnv,
+                                      std::basic_string<From> const& text, std::basic_string<To>& expected) {
     auto const convert = [&](auto& dst, detail::slice_limits slices) {
         return detail::convert_sized(step, cnv, dst.data(), dst.size(), text.data(), text.size(), slices);
     };
@@ -34,9 +32,8 @@ TEST(SizedConversion, AnySlicesGiveTheWholeConversion) {
         CvtCtx const ctx(encoding);
         std::string bytes;
         fl::ustring back;
-        expect_slices_do_not_show(lcctype::stream_conversion_from_utf16, ctx.handle(),
-                                  fl::ustring(u"a\u00e9\U0001F600\u65e5b\uac00\U00020000\uff71\u4e00~z"),
-                                  bytes);
+        fl::ustring const text = u"a\u00e9\U0001F600\u65e5b\uac00\U00020000\uff71\u4e00~z";
+        expect_slices_do_not_show(lcctype::stream_conversion_from_utf16, ctx.handle(), text, bytes);
         expect_slices_do_not_show(lcctype::stream_conversion_to_utf16, ctx.handle(), bytes, back);
         EXPECT_GT(back.size(), 8u);
     }
@@ -46,20 +43,16 @@ TEST(SizedConversion, AnySlicesGiveTheWholeConversion) {
 TEST(SizedResult, ExactPassTrustsItsOwnCount) {
     for (std::string const row : {"4", "55", "65", "566", "5676", "5678"}) {
         std::size_t pass = 0;
+        bool unstable = false;
         auto const count = [&](char* dst, std::size_t capacity) {
             std::size_t const size = static_cast<std::size_t>(row[pass] - '0') * 1000;
             std::fill_n(dst, std::min(capacity, size), row[pass++]);
             return size;
         };
-        auto const convert = [&] {
-            return fl::support::sized_result<std::string>(9, count, [] { throw 1; });
-        };
-        if (row == "5678") // grows once too often
-            EXPECT_THROW(convert(), int);
-        else
-            EXPECT_EQ(std::string(static_cast<std::size_t>(row.back() - '0') * 1000, row.back()), convert());
+        auto const text = fl::support::sized_result<std::string>(9, count, [&] { unstable = true; });
+        EXPECT_EQ(row == "5678", unstable) << "grows once too often";
+        EXPECT_EQ(unstable ? "" : std::string(static_cast<std::size_t>(row.back() - '0') * 1000, row.back()),
+                  text);
         EXPECT_EQ(row.size(), pass);
     }
 }
-
-} // namespace

@@ -8,22 +8,21 @@
 
 #include <gtest/gtest.h>
 #include <unicode/ucnv.h>
+#include <unicode/ustring.h>
 
-#include <atomic>
+#include <cstdio>
+#include <random>
 #include <thread>
-#include <vector>
 
 using namespace fl::i18n;
 
-namespace {
-
 /// Puts a locale with another encoding in force, as a change of the global locale does.
-void set_global_encoding(std::string const& encoding, std::string const& terminal = std::string()) {
+static void set_global_encoding(std::string const& encoding, std::string const& terminal = "") {
     auto locale = std::make_unique<QnLocaleImpl>(QnLocale::global());
     locale->setEncoding(encoding);
     locale->setTerminalEncoding(terminal);
-    lcmgmt::get_qnlocale_context()->publish_slot(
-        std::make_unique<lcmgmt::global_locale_slot>(std::move(locale)));
+    auto slot = std::make_unique<lcmgmt::global_locale_slot>(std::move(locale));
+    lcmgmt::get_qnlocale_context()->publish_slot(std::move(slot));
 }
 
 TEST(StringConversion, UsesTheProcessEncoding) {
@@ -33,8 +32,7 @@ TEST(StringConversion, UsesTheProcessEncoding) {
         SCOPED_TRACE(encoding);
         set_global_encoding(encoding);
         EXPECT_EQ(bytes, to_string(u"\u00e9\u00a0"));
-        EXPECT_EQ(u"\u00e9\u00a0", to_ustring(bytes));
-        EXPECT_EQ(u"\u00e9\u00a0", to_ustring(bytes.c_str()));
+        EXPECT_EQ(u"\u00e9\u00a0\u00e9\u00a0", to_ustring(bytes) + to_ustring(bytes.c_str()));
         EXPECT_EQ(fl::ustring(2000, u'\u00e9'), to_ustring(to_string(fl::ustring(2000, u'\u00e9'))));
         EXPECT_NE("", to_string(u"\uFFFF\xD800")) << "substitutes";
     }
@@ -42,10 +40,8 @@ TEST(StringConversion, UsesTheProcessEncoding) {
 
 // Encodings and converters that cannot convert show which calls use them at all.
 TEST(StringConversion, EmptyTextsTouchNoConverter) {
-    codecvt_ustring_to_string gone("UTF-8", false);
-    codecvt_string_to_ustring gone_back("UTF-8", false);
-    auto const out = std::move(gone);
-    auto const in = std::move(gone_back);
+    codecvt_ustring_to_string gone("UTF-8", false), out(std::move(gone));
+    codecvt_string_to_ustring gone_back("UTF-8", false), in(std::move(gone_back));
     set_global_encoding("no-such-encoding");
     EXPECT_EQ("", to_string(fl::ustring()) + to_string(u"", gone));
     EXPECT_EQ(u"", to_ustring(std::string()) + to_ustring(static_cast<char const*>(nullptr)));
@@ -53,6 +49,7 @@ TEST(StringConversion, EmptyTextsTouchNoConverter) {
     EXPECT_THROW(to_ustring(""), CvtConversionFailure);
     EXPECT_THROW(to_string(u"a"), CvtConversionFailure);
     EXPECT_THROW(to_string(u"a", gone), CvtConversionFailure);
+    EXPECT_THROW(lcmgmt::get_cached_codecvt(), CvtConversionFailure);
     EXPECT_EQ("\xC3\xA9", to_string(u"\u00e9", out));
     EXPECT_EQ(u"\u00e9\u00e9", to_ustring("\xC3\xA9", in) + to_ustring(std::string("\xC3\xA9"), in));
 }
@@ -69,7 +66,7 @@ TEST(StringConversion, Utf32) {
 
 TEST(StringConversion, ThreadsConvertDuringLocaleChanges) {
     std::atomic<int> wrong{0}, done{0};
-    std::vector<std::thread> threads;
+    std::vector<std::jthread> threads;
     for (int i = 0; i < 4; ++i)
         threads.emplace_back([&] {
             for (; done < 20000; ++done) {
@@ -79,8 +76,7 @@ TEST(StringConversion, ThreadsConvertDuringLocaleChanges) {
         });
     for (int i = 0; i < 50; ++i)
         set_global_encoding(i % 2 != 0 ? "UTF-8" : "ISO-8859-1");
-    for (std::thread& thread : threads)
-        thread.join();
+    threads.clear();
     EXPECT_EQ(0, wrong);
 }
 
@@ -89,14 +85,10 @@ TEST(ProcessCodecvt, CachedPerThreadAndLocale) {
     UConverter* const mine = lcmgmt::get_cached_codecvt();
     EXPECT_EQ(mine, lcmgmt::get_cached_codecvt());
     EXPECT_NE(mine, lcmgmt::clone_codecvt().get());
-    UConverter* other = mine;
-    std::thread([&] { other = lcmgmt::get_cached_codecvt(); }).join();
-    EXPECT_NE(mine, other);
+    std::thread([&] { EXPECT_NE(mine, lcmgmt::get_cached_codecvt()); }).join();
     set_global_encoding("ISO-8859-1");
     UErrorCode status = U_ZERO_ERROR;
     EXPECT_STREQ("ISO-8859-1", ucnv_getName(lcmgmt::get_cached_codecvt(), &status));
-    set_global_encoding("no-such-encoding");
-    EXPECT_THROW(lcmgmt::get_cached_codecvt(), CvtConversionFailure);
 }
 
 TEST(TerminalCodecvt, UsesTheTerminalEncodingAndSubstitutes) {
@@ -108,28 +100,84 @@ TEST(TerminalCodecvt, UsesTheTerminalEncodingAndSubstitutes) {
 }
 
 TEST(StandardEncodingName, AnyAliasGivesOneName) {
-    char const* const rows[][2] = {
-        {"utf8", "UTF-8"},       {"latin1", "ISO-8859-1"}, {"ISO_8859-1:1987", "ISO-8859-1"},
-        {"ibm-1047", "IBM1047"}, {"lmbcs", "LMBCS-1"},     {"sjis", "Shift_JIS"},
-        {"no-such-encoding", ""}};
+    char const* const rows[][2] = {{"utf8", "UTF-8"},
+                                   {"latin1", "ISO-8859-1"},
+                                   {"ISO_8859-1:1987", "ISO-8859-1"},
+                                   {"ibm-1047", "IBM1047"},
+                                   {"lmbcs", "LMBCS-1"},
+                                   {"sjis", "Shift_JIS"},
+                                   {"no-such-encoding", ""},
+                                   {"", ""}};
     for (auto const& [name, standard] : rows)
         EXPECT_EQ(standard, get_standard_encoding_name(name)) << name;
 }
 
 TEST(Unescape, ResolvesCEscapesOrEmptiesTheText) {
-    fl::ustring const rows[][2] = {{u"a\\tb\\\\", u"a\tb\\"},
-                                   {u"\\x41\\101\\u00e9", u"AA\u00e9"},
-                                   {u"\\U0001F600!", u"\U0001F600!"},
-                                   {u"\\ud83d\\ude00", u"\U0001F600"},
-                                   {u"\\ud83dx", u"\xD83Dx"},
-                                   {u"\\q\\\U0001F600", u"q\U0001F600"},
-                                   {u"abc\\", u""},
-                                   {u"a\\nb\\u12", u""},
-                                   {u"\\U00110000", u""},
-                                   {u"", u""}};
-    for (auto const& [text, result] : rows)
-        EXPECT_EQ(result, unescape_c_mode(text)) << testing::PrintToString(text);
+    EXPECT_EQ(u"a\tb\\AA\u00e9\U0001F600!", unescape_c_mode(u"a\\tb\\\\\\x41\\101\\u00e9\\U0001F600!"));
+    EXPECT_EQ(u"\U0001F600\xD83Dxq\U0001F600", unescape_c_mode(u"\\ud83d\\ude00\\ud83dx\\q\\\U0001F600"));
+    for (fl::ustring const refused : {u"abc\\", u"a\\nb\\u12", u"\\U00110000", u""})
+        EXPECT_EQ(u"", unescape_c_mode(refused)) << testing::PrintToString(refused);
     EXPECT_EQ(fl::ustring(u"a\0b", 3), unescape_c_mode(fl::ustring(u"a\0\\x62", 6)));
 }
 
-} // namespace
+/// `ours` against one bare ICU call, on random text of which `other` eighths are not ASCII.
+template <class To, class From>
+static void expect_as_icu(std::size_t size, unsigned other, auto call, auto ours) {
+    static std::minstd_rand random(7);
+    std::vector<From> text(size, 'a'); // its block has the exact size, for sanitizers
+    for (std::size_t i = 0; i < size; ++i)
+        if (random() % 8 < other)
+            text[i] = static_cast<From>(random() % 3 != 0 ? 0xD700 + random() % 0x900 : random());
+    std::basic_string<To> expected(3 * size, To());
+    std::int32_t length = 0;
+    UErrorCode status = U_ZERO_ERROR;
+    auto const units = static_cast<std::int32_t>(size);
+    call(expected.data(), 3 * units, &length, text.data(), units, 0xFFFD, nullptr, &status);
+    expected.resize(static_cast<std::size_t>(length));
+    EXPECT_TRUE(U_SUCCESS(status) && expected == ours(text.data(), size)) << size << " units, " << other;
+}
+
+TEST(Utf8Conversion, EqualsIcuOnAnyUnitsInEveryForm) {
+    auto const to_utf8 = [](auto s, auto n) { return ustring_to_utf8(s, n); };
+    auto const from_utf8 = [](auto s, auto n) { return utf8_to_ustring(s, n); };
+    for (std::size_t size : {1u, 5u, 63u, 64u, 340u, 1023u, 1024u, 1025u, 9000u, 32767u, 32769u, 70000u})
+        for (unsigned other = 0; other <= 8; ++other) {
+            expect_as_icu<char, char16_t>(size, other, u_strToUTF8WithSub, to_utf8);
+            expect_as_icu<char16_t, char>(size, other, u_strFromUTF8WithSub, from_utf8);
+        }
+    fl::ustring const text = u"\u00e9z";
+    EXPECT_EQ("\xC3\xA9z\xC3\xA9z", ustring_to_utf8(text) + ustring_to_utf8(text.c_str()));
+    EXPECT_EQ("\xC3\xA9z", ustring_to_utf8(std::basic_string_view<char16_t>(text)));
+    EXPECT_EQ(text + text, utf8_to_ustring(std::string("\xC3\xA9z")) + utf8_to_ustring("\xC3\xA9z"));
+    EXPECT_EQ("", ustring_to_utf8(nullptr, 4) + ustring_to_utf8(static_cast<char16_t const*>(nullptr)));
+    EXPECT_EQ(u"", utf8_to_ustring(nullptr, 4) + utf8_to_ustring(static_cast<char const*>(nullptr)));
+}
+
+// Runs here without the variable, and in the processes that the test below starts.
+TEST(EncodingDiagnosticsChild, ConvertsAsEver) {
+    EXPECT_EQ("caf\xC3\xA9", to_string(u"caf\u00e9"));
+    EXPECT_EQ(u"\u00e9", to_ustring(std::string("\xC3\xA9")));
+    EXPECT_EQ(u"\u00e8", to_ustring("\xC3\xA8"));
+    // ASCII isn't reported, and a NUL ends the check.
+    EXPECT_EQ(std::string("x\0\xC3\xA7", 4), to_string(fl::ustring(u"x\0\u00e7", 3)));
+}
+
+static std::string reports_of_child(std::string const& environment) {
+    std::string const self = " '" + testing::internal::GetArgvs()[0] + "'";
+    std::FILE* const pipe = popen((environment + self + " --gtest_filter=*Child.*").c_str(), "r");
+    std::string reports;
+    for (char line[256]; pipe && std::fgets(line, sizeof line, pipe);)
+        if (std::string const text(line); text.starts_with("to_") || text.find("PASSED") != text.npos)
+            reports += text;
+    return pipe && pclose(pipe) == 0 ? reports : "child failed";
+}
+
+TEST(EncodingDiagnostics, ReportsNonAsciiTextsWhenTheVariableExists) {
+    std::string const passed = "[  PASSED  ] 1 test.\n";
+    std::string const lines = "to_string called with non-ASCII input: caf\xC3\xA9\n"
+                              "to_ustring called with non-ASCII string input: \xC3\xA9\n"
+                              "to_ustring called with non-ASCII char * input: \xC3\xA8\n";
+    EXPECT_EQ(passed, reports_of_child("env -u QN_CHAR_ENCODING_DIAG"));
+    EXPECT_EQ(lines + passed, reports_of_child("env QN_CHAR_ENCODING_DIAG=1"));
+    EXPECT_EQ(lines + passed, reports_of_child("env QN_CHAR_ENCODING_DIAG=")) << "an empty value counts";
+}

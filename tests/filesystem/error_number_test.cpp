@@ -5,13 +5,12 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
-#include <tuple>
 
 using namespace fl::filesystem;
 
 TEST(ErrorNumber, EachValueHasItsClassAndGoesBack) {
-    std::tuple<int, char const*, std::int32_t, int> const rows[] = {
-        // the last is the way back, 0 for none
+    // The last is the way back, 0 for none.
+    std::tuple<int, std::string, std::int32_t, int> const rows[] = {
         {EINVAL, "InvalidArgument", 1, EINVAL},
         {ENOTSUP, "InvalidArgument", 1, EINVAL},
         {EACCES, "AccessDenied", 6, EACCES},
@@ -23,11 +22,11 @@ TEST(ErrorNumber, EachValueHasItsClassAndGoesBack) {
         {ELOOP, "SystemError", 13, EIO},
         {ENAMETOOLONG, "FileNameTooLarge", 3, ENAMETOOLONG}};
     for (auto const& [error, id, code, back] : rows) {
-        SCOPED_TRACE(std::string(id) + " for " + std::to_string(error));
+        SCOPED_TRACE(id);
         try {
             detail::throw_errno(error, "/caf\xC3\xA9", "/raw\xFF");
         } catch (FsysExceptionBase const& failure) {
-            EXPECT_EQ(failure.what(), std::string("fl:filesystem:") + id);
+            EXPECT_EQ(failure.what(), "fl:filesystem:" + id);
             EXPECT_EQ(failure.code(), code);
             EXPECT_EQ(failure.path(), "/caf\xC3\xA9");
             EXPECT_EQ(failure.arguments(), std::vector<std::string>{"/raw\xC3\xBF"}) << "shown byte by byte";

@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <sys/stat.h>
 
 using namespace fl::filesystem;
@@ -14,9 +13,7 @@ using fl::ustring;
 namespace stdfs = std::filesystem;
 using kind = stdfs::file_type;
 
-namespace {
-
-std::map<kind, std::uint32_t> const kinds = {
+static std::map<kind, std::uint32_t> const kinds = {
     {kind::not_found, file_status::file_not_found}, {kind::regular, file_status::regular_file},
     {kind::directory, file_status::directory_file}, {kind::symlink, file_status::symlink_file},
     {kind::fifo, file_status::fifo_file},           {kind::character, file_status::character_file}};
@@ -34,13 +31,11 @@ struct FileStatusTest : testing::Test {
     fl::testing::temp_tree tree;
 };
 
-} // namespace
-
 TEST_F(FileStatusTest, StatusAgreesWithTheStandardLibrary) {
     for (auto const name : {u"sub", u"sub/caf\u00E9", u"dirlink", u"dirlink/caf\u00E9", u"byteslink", u"fifo",
                             u"no", u"byteslink/child", u"no/child", u"..", u"../../../../dev/null"}) {
-        SCOPED_TRACE(stdfs::path(name).string());
         stdfs::path const path = tree.root() / name;
+        SCOPED_TRACE(path);
         auto const expected = stdfs::status(path);
         file_status const actual = status(upath(tree.text(name)));
         EXPECT_EQ(actual.kind(), kinds.at(expected.type()));
@@ -66,8 +61,8 @@ TEST_F(FileStatusTest, AbsoluteAndCanonicalAgreeWithTheStandardLibrary) {
     stdfs::current_path(tree.root() / "dirlink");
     for (auto const name : {u"caf\u00E9", u"./caf\u00E9", u"..", u"no", u"../loop", u"caf\u00E9/child"})
         for (auto const base : {u"", u"..", u"/tmp"}) {
-            SCOPED_TRACE(stdfs::path(name).string() + " in " + stdfs::path(base).string());
             stdfs::path const whole = stdfs::absolute(stdfs::path(base) / name);
+            SCOPED_TRACE(whole);
             EXPECT_EQ(absolute(name, base), whole.u16string());
             std::error_code error;
             stdfs::path const expected = stdfs::canonical(whole, error);

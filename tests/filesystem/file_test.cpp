@@ -4,36 +4,35 @@
 #include <fl/filesystem/codecvt.hpp>
 #include <fl/filesystem/exceptions.hpp>
 #include <fl/filesystem/file.hpp>
+#include <fl/filesystem/file_status.hpp>
 #include <fl/i18n/cvt_exception.hpp>
 
+#include <boost/date_time/posix_time/posix_time.hpp>
 #include <gtest/gtest.h>
 
 #include <cerrno>
 #include <functional>
-#include <new>
-#include <utility>
+#include <sys/stat.h>
 
 using namespace fl::filesystem;
 using namespace std::string_literals;
+using boost::posix_time::ptime;
 using fl::ustring;
-
-namespace {
-
-using Script = std::function<std::string(ustring const&)>;
-using Length = unsigned long;
 
 /// A converter that answers with what the test wants.
 struct ScriptedConverter : fl::i18n::converter<char, char16_t> {
-    explicit ScriptedConverter(Script script) : answer(std::move(script)) {}
+    using Length = unsigned long;
+    explicit ScriptedConverter(std::function<std::string(ustring)> script) : answer(std::move(script)) {}
     Length do_get_destination_size(char16_t const*, Length) const override { return 0; }
     std::string do_convert(char16_t const* src, Length size) const override { return answer({src, size}); }
     Length do_convert(char*, Length, char16_t const*, Length) const override { return 0; }
-    Script answer;
+    std::function<std::string(ustring)> answer;
 };
 
-/// The `errno` of opening, or 0 if the stream has "content". Leaves another value behind for the next
-/// opening.
-int outcome(std::FILE* file) {
+static codecvt_ustring_to_filesystem const strict(false);
+
+/// The `errno` of opening, or 0 if the stream has "content". Leaves another value behind for the next opening.
+static int outcome(std::FILE* file) {
     if (file == nullptr)
         return std::exchange(errno, ERANGE);
     char text[16] = {};
@@ -42,20 +41,14 @@ int outcome(std::FILE* file) {
     return expected ? 0 : -1;
 }
 
-} // namespace
-
 TEST(File, RefusesArgumentsInOrder) {
-    struct {
-        ustring name;
-        std::string mode;
-        int by_text, by_path; // `errno` of the two forms
-    } const rows[] = {
+    std::tuple<ustring, std::string, int, int> const rows[] = {
+        // `errno` of the two forms
         {u"", "r", EINVAL, EINVAL},         {u"\0x"s, "r", EINVAL, EINVAL},
         {u"x\0"s, "r", EINVAL, EINVAL},     {u"x", "", EINVAL, EINVAL},
         {u"x", "r\0"s, EINVAL, EINVAL},     {u"no-such/", "", EINVAL, EINVAL},
         {u"no-such/", "r", EISDIR, ENOENT}, {u"/", "w", EISDIR, EISDIR},
         {u"no-such", "r", ENOENT, ENOENT},  {ustring(5000, u'n'), "r", ENAMETOOLONG, ENAMETOOLONG}};
-    codecvt_ustring_to_filesystem const strict(false);
     for (auto const& [name, mode, by_text, by_path] : rows) {
         SCOPED_TRACE(std::filesystem::path(name).string() + " " + mode);
         EXPECT_EQ(outcome(fopen(name, mode)), by_text);
@@ -71,7 +64,6 @@ TEST(File, RefusesArgumentsInOrder) {
 TEST(File, OpensNamesOfAnyLengthThroughEveryForm) {
     fl::testing::temp_tree const tree;
     tree.file("caf\xC3\xA9", "content");
-    codecvt_ustring_to_filesystem const strict(false);
     for (std::size_t const length : {100u, 1023u, 1024u, 1025u, 2048u, 3000u}) {
         SCOPED_TRACE(length);
         ustring name = tree.text(length % 2 != tree.text().size() % 2 ? u"." : u"/.");
@@ -87,23 +79,18 @@ TEST(File, OpensNamesOfAnyLengthThroughEveryForm) {
     std::string word;
     EXPECT_TRUE(basic_ifstream<char>(detail::make_native_access_form_i18n(tree.text(u"caf\u00E9"))) >> word);
     EXPECT_EQ(word, "content");
-}
-
-TEST(File, AnUnpairedSurrogateBecomesByte26UnlessTheConverterIsStrict) {
-    fl::testing::temp_tree const tree;
+    // An unpaired surrogate becomes byte 26 unless the converter is strict.
     tree.file("a\x1A", "content");
-    codecvt_ustring_to_filesystem const strict(false);
     EXPECT_EQ(outcome(fopen(tree.text(u"a\xD800"), "r")), 0);
     EXPECT_EQ(outcome(fopen(tree.text(u"a\xD800"), "r", strict)), ENOENT);
 }
 
 TEST(File, TheCallersConverterGetsTheNameAndMayFail) {
     ustring seen;
-    ScriptedConverter const spy([&](ustring const& name) { return seen = name, ""s; });
+    ScriptedConverter const spy([&](ustring const& name) { return seen += name, ""s; });
     EXPECT_EQ(outcome(fopen(u"a//b", "r", spy)), ENOENT);
-    EXPECT_EQ(seen, u"a/b");
-    EXPECT_EQ(outcome(fopen(upath(u"a//b/"), "r", spy)), ENOENT);
-    EXPECT_EQ(seen, u"a//b/");
+    EXPECT_EQ(outcome(fopen(upath(u"|a//b/"), "r", spy)), ENOENT);
+    EXPECT_EQ(seen, u"a/b|a//b/");
     ScriptedConverter const wide([](ustring const&) { return "/\0d\0e\0v"s; });
     EXPECT_EQ(outcome(fopen(u"/dev", "r", wide)), EINVAL);
     auto const outcome_of = [](auto const& exception) {
@@ -117,9 +104,42 @@ TEST(File, TheCallersConverterGetsTheNameAndMayFail) {
 }
 
 TEST(File, BoostPathsAreReadAsUtf8) {
-    codecvt_filesystem_to_ustring const strict(false);
+    codecvt_filesystem_to_ustring const strict_in(false);
     EXPECT_EQ(to_ustring("/caf\xC3\xA9//\xFF"), u"/caf\u00E9//\uFFFD");
     EXPECT_EQ(to_generic_ustring("/caf\xC3\xA9//\xFF"), u"/caf\u00E9//\uFFFD");
-    EXPECT_EQ(to_generic_ustring("/caf\xC3\xA9", strict), u"/caf\u00E9");
-    EXPECT_THROW(to_generic_ustring("\xFF/", strict), CvtInvalidCharacter);
+    EXPECT_EQ(to_generic_ustring("/caf\xC3\xA9", strict_in), u"/caf\u00E9");
+    EXPECT_THROW(to_generic_ustring("\xFF/", strict_in), CvtInvalidCharacter);
+}
+
+TEST(LastWriteTime, IsReadBackToTheMicrosecond) {
+    fl::testing::temp_tree const tree;
+    std::filesystem::path const file = tree.file("f");
+    ptime const accessed = status(tree.text(u"f")).access_time;
+    // With the seconds that stat(2) gives.
+    std::pair<char const*, std::time_t> const rows[] = {{"1969-12-31 23:59:59.999999", -1},
+                                                        {"1969-12-31 23:59:59", -1},
+                                                        {"2038-01-19 03:14:08.5", 2147483648},
+                                                        {"1901-12-14 00:00:00.000001", -2147472000}};
+    for (auto const& [text, seconds] : rows) {
+        SCOPED_TRACE(text);
+        ptime const time = boost::posix_time::time_from_string(text);
+        last_write_time(tree.text(u"f//"), time);
+        EXPECT_EQ(status(tree.text(u"f")).modification_time, time);
+        struct stat record {};
+        ASSERT_EQ(::stat(file.c_str(), &record), 0);
+        EXPECT_EQ(record.st_mtime, seconds);
+    }
+    EXPECT_EQ(status(tree.text(u"f")).access_time, accessed);
+}
+
+TEST(LastWriteTime, RefusesInOrder) {
+    try {
+        last_write_time(u"no-such", ptime());
+        FAIL() << "no exception";
+    } catch (InvalidArgument const& failure) {
+        EXPECT_EQ(failure.message(), "Time is not a ptime");
+    }
+    EXPECT_THROW(last_write_time(upath(), ptime()), InvalidArgument);
+    EXPECT_THROW(last_write_time(u"no-such", ptime(boost::posix_time::neg_infin)), SystemError);
+    EXPECT_THROW(last_write_time(u"no-such", ptime(boost::gregorian::date(1970, 1, 1))), PathNotFound);
 }

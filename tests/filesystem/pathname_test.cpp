@@ -46,9 +46,8 @@ TEST(Pathname, ConcatenatesWithOneSeparator) {
                                    {"a", "", "a"},        {"a/", "", "a/"},   {"/", "b", "/b"},
                                    {"/", "/b", "/b"},     {"a", "/", "a"},    {"", "", ""}};
     for (auto const& [first, second, expected] : rows) {
-        SCOPED_TRACE(first + " and "s + second);
-        EXPECT_EQ(narrow::concatenate_pathname(first, second), expected);
-        EXPECT_EQ(native_path(first) / second, native_path(expected));
+        EXPECT_EQ(narrow::concatenate_pathname(first, second), expected) << first << " and " << second;
+        EXPECT_EQ(native_path(first) / second, native_path(expected)) << first << " and " << second;
     }
     EXPECT_EQ(upath(u"\u00E9/", 1) / u"b", upath(u"\u00E9/b", 7));
     EXPECT_LT(upath(u"\U0001F600"), upath(u"\uFF5E")); // by code unit

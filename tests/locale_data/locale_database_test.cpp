@@ -5,24 +5,16 @@
 #include <gtest/gtest.h>
 
 #include <climits>
-#include <cstdlib>
-#include <new>
 
-namespace {
+using namespace fl::i18n::lcmgmt;
 
-long allocations = 0;
-long refused_allocation = LONG_MAX; ///< counted from 0; it and no other fails
-
-} // namespace
+static long allocations_left = LONG_MAX; ///< the one at 0 fails, and no other
 
 // Not inlined, or the compiler takes the calls of free() for mismatched with the calls of operator new.
 [[gnu::noinline]] void* operator new(std::size_t size) {
-    void* const memory = allocations++ == refused_allocation ? nullptr : std::malloc(size > 0 ? size : 1);
-    if (memory == nullptr)
-        throw std::bad_alloc();
-    return memory;
+    void* const memory = allocations_left-- == 0 ? nullptr : std::malloc(size > 0 ? size : 1);
+    return memory != nullptr ? memory : throw std::bad_alloc();
 }
-
 [[gnu::noinline]] void operator delete(void* memory) noexcept {
     std::free(memory);
 }
@@ -30,16 +22,13 @@ long refused_allocation = LONG_MAX; ///< counted from 0; it and no other fails
     std::free(memory);
 }
 
-namespace fl::i18n::lcmgmt {
-namespace {
-
-locale_database const& database() {
+static locale_database const& database() {
     static locale_database const instance;
     return instance;
 }
 
 /// A result as text, with null told from empty.
-std::string shown(char const* text) {
+static std::string shown(char const* text) {
     return text == nullptr ? "(null)" : text;
 }
 
@@ -56,10 +45,9 @@ TEST(LocaleDatabase, ResolvesLocales) {
                  "ja ja_JP Shift_JIS ja_JP.SJIS  de_AT.UTF-8@euro de_AT ISO-8859-1 de_AT.ISO8859-1  "
                  "en_AI en_AI ISO-8859-1 (null)  ach ach_UG UTF-8 (null)  ee ee_EE ISO-8859-4 (null)  "
                  "ny ny_NO ISO-8859-1 (null)")) {
-        SCOPED_TRACE(name);
-        EXPECT_EQ(database().get_locale_name(name), canonical);
-        EXPECT_EQ(shown(database().get_default_encoding_name(name)), encoding);
-        EXPECT_EQ(shown(database().get_xpg_name(name)), xpg_name);
+        EXPECT_EQ(database().get_locale_name(name), canonical) << name;
+        EXPECT_EQ(shown(database().get_default_encoding_name(name)), encoding) << name;
+        EXPECT_EQ(shown(database().get_xpg_name(name)), xpg_name) << name;
     }
 }
 
@@ -92,32 +80,16 @@ TEST(LocaleDatabase, PooledTextsStayWhereTheyAre) {
     EXPECT_EQ(context.store_character_data("text"), pooled);
 }
 
-TEST(LocaleDatabase, LookUpsDoNotAllocate) {
-    database();
-    long const before = allocations;
-    database().get_default_encoding_name("de_DE");
-    database().get_xpg_name("ja");
-    database().get_standard_encoding_name("IBM-964_P110-1999");
-    database().get_encoding_context("a name that no small string buffer holds");
-    EXPECT_EQ(allocations, before);
-}
-
 // Whichever allocation fails, the object is built, says so, and answers.
 TEST(LocaleDatabase, FailedLoadIsAStatus) {
-    int failures = 0;
-    for (long refused = 0;; refused = refused * 2 + 1, ++failures) {
-        refused_allocation = allocations + refused;
+    int status = 5;
+    for (long refused = 0; status != 0; refused = refused * 2 + 1) {
+        allocations_left = refused;
         locale_database const incomplete;
-        refused_allocation = LONG_MAX;
-        if (incomplete.get_init_status() == 0)
-            break;
-        EXPECT_EQ(incomplete.get_init_status(), 5);
-        EXPECT_EQ(incomplete.get_init_status_log(), "std::bad_alloc");
+        allocations_left = LONG_MAX;
+        status = incomplete.get_init_status();
+        EXPECT_TRUE(status == 5 || (status == 0 && refused > 255)) << refused;
+        EXPECT_EQ(incomplete.get_init_status_log(), status == 0 ? "" : "std::bad_alloc");
         EXPECT_EQ(shown(incomplete.get_default_encoding_name("xx_YY")), "UTF-8");
     }
-    EXPECT_GT(failures, 8);
-    EXPECT_EQ(database().get_init_status(), 0);
 }
-
-} // namespace
-} // namespace fl::i18n::lcmgmt

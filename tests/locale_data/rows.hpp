@@ -2,12 +2,9 @@
 #pragma once
 
 #include <array>
-#include <cstddef>
 #include <sstream>
 #include <string>
 #include <vector>
-
-namespace fl::i18n::lcmgmt {
 
 template <std::size_t Columns>
 std::vector<std::array<std::string, Columns>> rows(char const* text) {
@@ -21,5 +18,3 @@ std::vector<std::array<std::string, Columns>> rows(char const* text) {
     }
     return result;
 }
-
-} // namespace fl::i18n::lcmgmt

@@ -1,4 +1,5 @@
 // Each test runs in a process of its own: what happens at the first use happens once.
+#include "locale_data/rows.hpp"
 #include "locale_runtime/discovery_record.hpp"
 #include "locale_runtime/global_locale_slot.hpp"
 
@@ -10,15 +11,13 @@
 #include <unicode/locid.h>
 #include <unicode/ucnv.h>
 
-#include <algorithm>
-#include <cstdlib>
 #include <latch>
 #include <thread>
 
-namespace fl::i18n::lcmgmt {
-namespace {
+using namespace fl::i18n;
+using namespace fl::i18n::lcmgmt;
 
-void run_in_threads(int count, auto const& work) {
+static void run_in_threads(int count, auto const& work) {
     std::latch gate(count);
     std::vector<std::jthread> threads;
     for (int i = 0; i < count; ++i)
@@ -28,25 +27,24 @@ void run_in_threads(int count, auto const& work) {
         });
 }
 
-void publish(std::string const& name) {
-    get_qnlocale_context()->publish_slot(
-        std::make_unique<global_locale_slot>(std::make_unique<QnLocaleImpl>(name)));
+static void publish(std::string const& name) {
+    auto slot = std::make_unique<global_locale_slot>(std::make_unique<QnLocaleImpl>(name));
+    get_qnlocale_context()->publish_slot(std::move(slot));
 }
 
 TEST(LocaleContext, FirstUseByManyThreadsBuildsOneWholeContext) {
-    std::vector<QnLocaleCtx const*> seen(32);
-    run_in_threads(32, [&](int i) {
+    run_in_threads(32, [](int) {
         EXPECT_EQ(QnLocale::classic().shortName(QnLocale::ctype), "en_US_POSIX");
         EXPECT_EQ(QnLocale::getLcCategoryName(QnLocale::messages), "messages");
-        seen[static_cast<std::size_t>(i)] = get_qnlocale_context();
     });
-    EXPECT_EQ(seen, std::vector<QnLocaleCtx const*>(32, get_qnlocale_context()));
     EXPECT_EQ(get_qnlocale_context()->event_log(),
               std::vector<std::string>{"QnLocaleCtx::initQnLcCtx - Locale context was initialized."});
 }
 
-TEST(LocaleContext, BeginsWithBuiltInLocalesOnly) {
+TEST(LocaleContext, BeginsWithBuiltInLocalesAndReadsTheEnvironmentOnce) {
     setenv("LC_ALL", "de_DE.ISO-8859-1", 1);
+    setenv("QNLOCALE_LCDATA_PATH", "", 1);
+    setenv("QNLOCALE_L10N_CONTROL", "OFF", 1);
     QnLocale const& classic = QnLocale::classic();
     EXPECT_EQ(&QnLocale::global(), &classic);
     EXPECT_EQ(&QnLocale::system(), &classic);
@@ -55,36 +53,31 @@ TEST(LocaleContext, BeginsWithBuiltInLocalesOnly) {
     EXPECT_STREQ(icu::Locale::getDefault().getName(), "en_US_POSIX");
     EXPECT_EQ(get_qnlocale_context()->status().code(), 2);
     EXPECT_TRUE(get_qnlocale_context()->getDataPathNames().empty());
-}
-
-TEST(LocaleContext, EnvironmentIsReadOnce) {
-    setenv("QNLOCALE_LCDATA_PATH", "", 1);
-    setenv("QNLOCALE_L10N_CONTROL", "OFF", 1);
-    QnLocale::classic();
     setenv("QNLOCALE_L10N_CONTROL", "on", 1);
     setenv("QNLOCALE_TERMINAL_ENCODING", "UTF-8", 1);
-    EXPECT_EQ(get_qnlocale_context()->discovery().snapshot,
-              (std::map<std::string, std::string>{{"QNLOCALE_L10N_CONTROL", "OFF"}}));
+    auto const& snapshot = get_qnlocale_context()->discovery().snapshot;
+    EXPECT_EQ(snapshot, (std::map<std::string, std::string>{{"QNLOCALE_L10N_CONTROL", "OFF"}}));
 }
 
-TEST(LocaleContext, NamesOfCategoriesAndOptionalData) {
-    std::string names, values;
+TEST(LocaleContext, NamesOfCategoriesOptionalDataAndEncodings) {
+    std::string names;
     for (int i = 0; i < 6; ++i)
         names += QnLocale::getLcCategoryName(static_cast<QnLocale::LcCategory>(i)) + ' ';
     EXPECT_EQ(names, "ctype collate time numeric monetary messages ");
     EXPECT_EQ(QnLocale::getLcCategory("COLLATE"), 1);
-    for (char const* const name :
-         {"jvmencoding", "TermEncoding", "terminputencoding", "termoutputencoding", "papersize", "unittype"})
-        values += std::to_string(QnLcOptDataCtx::getOptDataType(name));
-    EXPECT_EQ(values, "012345");
+    int value = 0;
+    for (auto const& [name] :
+         rows<1>("jvmencoding TermEncoding terminputencoding termoutputencoding papersize unittype"))
+        EXPECT_EQ(QnLcOptDataCtx::getOptDataType(name), value++) << name;
     EXPECT_THROW(QnLocale::getLcCategory("message"), QnLcDataNotFound);
     EXPECT_THROW(QnLocale::getLcCategoryName(static_cast<QnLocale::LcCategory>(6)), QnLcDataNotFound);
-}
-
-TEST(LocaleContext, WithoutALocaleSaysSo) {
-    QnLocaleCtx const context;
-    EXPECT_THROW(context.classic(), QnLcDataNotFound);
-    EXPECT_THROW(context.current_slot(), QnLcDataNotFound);
+    EXPECT_THROW(QnLocaleCtx().classic(), QnLcDataNotFound);
+    EXPECT_THROW(QnLocaleCtx().current_slot(), QnLcDataNotFound);
+    for (auto const& [name, standard] : rows<2>("utf8 UTF-8  sjis Shift_JIS  No-Such ~  ~ ~")) {
+        EXPECT_EQ(LcData::getQnStandardEncodingName(name), standard);
+        EXPECT_EQ(get_encoding_name_from_alias(name), standard.empty() ? name : standard);
+        EXPECT_EQ(LcData::checkEncoding(name), !standard.empty()) << name;
+    }
 }
 
 TEST(LocaleContext, PublishedLocaleHasConvertersOfItsOwn) {
@@ -97,16 +90,14 @@ TEST(LocaleContext, PublishedLocaleHasConvertersOfItsOwn) {
     EXPECT_STREQ(ucnv_getName(current.master(), &status), "ibm-943_P15A-2003");
     EXPECT_EQ(current.thread_converter().get(), nullptr);
     EXPECT_EQ(former, QnLocale::classic()) << "a reference outlives its turn";
-
     auto unknown = std::make_unique<QnLocaleImpl>("de_DE");
     unknown->setEncoding("no-such-encoding");
     EXPECT_EQ(global_locale_slot(std::move(unknown)).master(), nullptr);
 }
 
 TEST(LocaleContext, ReadersNeedNoLockWhileLocalesAreReplaced) {
-    constexpr int rounds = 200;
     run_in_threads(8, [](int i) {
-        for (int round = 0; round < rounds; ++round) {
+        for (int round = 0; round < 200; ++round) {
             if (i < 2) {
                 publish(i == 0 ? "de_DE" : "ja_JP");
                 get_qnlocale_context()->log_event("writer", "round ", round);
@@ -121,16 +112,3 @@ TEST(LocaleContext, ReadersNeedNoLockWhileLocalesAreReplaced) {
     auto const log = get_qnlocale_context()->event_log();
     EXPECT_EQ(std::count(log.begin(), log.end(), "writer - round 199"), 2);
 }
-
-TEST(LocaleContext, EncodingNamesInStrictAndTolerantForm) {
-    char const* const cases[][2] = {{"utf8", "UTF-8"}, {"sjis", "Shift_JIS"}, {"No-Such", ""}, {"", ""}};
-    for (auto const& [name, standard] : cases) {
-        SCOPED_TRACE(name);
-        EXPECT_EQ(LcData::getQnStandardEncodingName(name), standard);
-        EXPECT_EQ(get_encoding_name_from_alias(name), *standard ? standard : name);
-        EXPECT_EQ(LcData::checkEncoding(name), *standard != '\0');
-    }
-}
-
-} // namespace
-} // namespace fl::i18n::lcmgmt

@@ -3,26 +3,16 @@
 
 #include <gtest/gtest.h>
 
-namespace fl::i18n {
-namespace {
+using namespace fl::i18n;
 
-std::string text_of(QnLocale const& locale, QnLcOptDataCtx::LcOptDataType type) {
+static std::string text_of(QnLocale const& locale, QnLcOptDataCtx::LcOptDataType type) {
     return std::get<std::string>(locale.getLcOptData(type));
-}
-
-TEST(LocaleImpl, PartsOfTheName) {
-    QnLocaleImpl const locale("sr_latn-BA");
-    EXPECT_EQ(locale.language(QnLocale::ctype, QnLocale::language_with_script), "sr-Latn");
-    EXPECT_EQ(locale.language(QnLocale::ctype, QnLocale::language_without_script), "sr");
-    EXPECT_EQ(locale.territory(QnLocale::ctype), "BA");
-    EXPECT_EQ(locale.toLanguageTag(QnLocale::ctype), "sr-Latn-BA");
 }
 
 TEST(LocaleImpl, StoresNamesAsGivenAndKeepsThemOnRefusal) {
     lcmgmt::locale_database const database;
     QnLocaleImpl locale(database);
-    EXPECT_EQ(locale.localeSpecificEncoding(), "");
-    EXPECT_EQ(text_of(locale, QnLcOptDataCtx::jvm_encoding), "");
+    EXPECT_EQ(locale.localeSpecificEncoding() + text_of(locale, QnLcOptDataCtx::jvm_encoding), "");
     locale.setLcName("DE.x", "raw"); // known by its short name
     locale.setLcName("en_US_POSIX", "@m", QnLocale::messages);
     EXPECT_THROW(locale.setLcName("xx_YY", "", QnLocale::time), QnLcInvLcName);
@@ -32,6 +22,10 @@ TEST(LocaleImpl, StoresNamesAsGivenAndKeepsThemOnRefusal) {
     EXPECT_EQ(locale.shortName(QnLocale::time) + locale.modifier(QnLocale::time), "DE.xraw");
     EXPECT_EQ(locale.shortName(QnLocale::messages) + locale.modifier(QnLocale::messages), "en_US@m");
     EXPECT_EQ(locale.localeSpecificEncoding(), "ISO-8859-1");
+    QnLocaleImpl const parts("sr_latn-BA");
+    EXPECT_EQ(parts.language(QnLocale::ctype, QnLocale::language_with_script), "sr-Latn");
+    EXPECT_EQ(parts.language(QnLocale::ctype, QnLocale::language_without_script), "sr");
+    EXPECT_EQ(parts.territory(QnLocale::ctype) + parts.toLanguageTag(QnLocale::ctype), "BAsr-Latn-BA");
 }
 
 TEST(LocaleImpl, TerminalEncodingFollowsTheEncodingUntilCopied) {
@@ -41,9 +35,9 @@ TEST(LocaleImpl, TerminalEncodingFollowsTheEncodingUntilCopied) {
     EXPECT_EQ(copy, locale);
     copy.setEncoding("UTF-8");
     EXPECT_NE(copy, locale);
-    for (auto const type : {QnLcOptDataCtx::terminal_encoding, QnLcOptDataCtx::terminal_input_encoding,
-                            QnLcOptDataCtx::terminal_output_encoding})
-        EXPECT_EQ(text_of(copy, type), "Shift_JIS") << type;
+    for (int type = QnLcOptDataCtx::terminal_encoding; type <= QnLcOptDataCtx::terminal_output_encoding;
+         ++type)
+        EXPECT_EQ(text_of(copy, static_cast<QnLcOptDataCtx::LcOptDataType>(type)), "Shift_JIS") << type;
     EXPECT_THROW(copy.getLcOptData(static_cast<QnLcOptDataCtx::LcOptDataType>(6)), QnLcInvLcArgument);
     locale.setEncoding("UTF-8");
     EXPECT_EQ(copy, locale) << "the terminal encoding is no part of a locale's identity";
@@ -51,27 +45,20 @@ TEST(LocaleImpl, TerminalEncodingFollowsTheEncodingUntilCopied) {
 
 TEST(LocaleImpl, EveryCategoryAndModifierCountsInComparison) {
     QnLocaleImpl const german("de_DE");
-    for (int i = 0; i < 6; ++i) {
+    for (int i = 0; i < 6; ++i)
         for (auto const& [name, modifier] : {std::pair("de_AT", ""), std::pair("de_DE", "@euro")}) {
             QnLocaleImpl other("de_DE");
             other.setLcName(name, modifier, static_cast<QnLocale::LcCategory>(i));
             EXPECT_NE(german, other) << i << name;
         }
-    }
 }
 
 TEST(LocaleImpl, PaperAndUnitsFollowTheTimeCategory) {
-    struct {
-        char const* time;
-        int paper, units;
-    } const cases[] = {{"de_DE", 1, 1}, {"en_US", 0, 0}, {"en_GB", 1, 2}, {"en_US_POSIX", 0, 0}};
-    for (auto const& [time, paper, units] : cases) {
-        SCOPED_TRACE(time);
+    std::tuple<char const*, int, int> const rows[] = {
+        {"de_DE", 1, 1}, {"en_US", 0, 0}, {"en_GB", 1, 2}, {"en_US_POSIX", 0, 0}};
+    for (auto const& [time, paper, units] : rows) {
         auto const locale = QnLocale::createLocale(paper ? "en_US" : "de_DE", QnLocale::time, time);
-        EXPECT_EQ(std::get<1>(locale->getLcOptData(QnLcOptDataCtx::paper_size)), paper);
-        EXPECT_EQ(std::get<2>(locale->getLcOptData(QnLcOptDataCtx::measurement_system)), units);
+        EXPECT_EQ(std::get<1>(locale->getLcOptData(QnLcOptDataCtx::paper_size)), paper) << time;
+        EXPECT_EQ(std::get<2>(locale->getLcOptData(QnLcOptDataCtx::measurement_system)), units) << time;
     }
 }
-
-} // namespace
-} // namespace fl::i18n

@@ -1,7 +1,7 @@
 /// @file
 /// `boost::filesystem::path` as `ustring`.
 ///
-///     fl::ustring const name = fl::filesystem::to_ustring(boost::filesystem::temp_directory_path());
+///     fl::ustring const name = fl::filesystem::to_ustring(boost::filesystem::path("/tmp"));
 #pragma once
 
 #include <fl/i18n/converter.hpp>

@@ -3,10 +3,9 @@
 ///
 /// No configuration says it: a module lies at "ROOT/bin/PLATFORM/", where PLATFORM is the directory name that
 /// the build was made with, and the root of the tree follows from the place of the module on disk. A module
-/// at
-/// "/opt/x/bin/PLATFORM/libfl_i18n.so.1" has the root "/opt/x".
+/// at "/opt/x/bin/PLATFORM/libfl_i18n.so.1" has the root "/opt/x".
 ///
-///     ustring const resources = detail::concatenate_pathname(get_install_path(), u"resources");
+///     ustring const resources = fl::filesystem::detail::concatenate_pathname(get_install_path(), u"resources");
 ///
 /// Every function may be called from any thread.
 #pragma once

@@ -5,11 +5,11 @@
 /// least of all. `upath` holds UTF-16, the form that this library works in; `native_path` holds the bytes
 /// that the system takes. Between the two stands UTF-8, always, whatever the locale's encoding is.
 ///
-///     upath path(detail::make_native_form(root, 1));   // "/opt//x/" gives "/opt/x"
+///     upath path(fl::filesystem::detail::make_native_form(root, 1));   // "/opt//x/" gives "/opt/x"
 ///     path /= u"resources";                            // "/opt/x/resources"
 ///     if (exists(path)) ...
 ///
-/// The functions of `detail` are text operations: they never look at the disk. Lengths count code units.
+/// The functions of `detail`, which is part of the interface here, are text operations: they never look at the disk. Lengths count code units.
 /// Except where said, they accept any text, unpaired surrogates and zero units included, and fail only by
 /// `std::bad_alloc`. Everything here may be called from any thread.
 #pragma once
@@ -54,7 +54,8 @@ public:
 
     /// Appends components, as `concatenate_pathname` joins them: "a" / "b" is "a/b", "" / "b" is "b".
     basic_path& operator/=(std::basic_string_view<Char> components) {
-        text_ = Traits::concatenate_pathname(std::move(text_), components, static_cast<int>(form_));
+        // A copy: the components may be a view of this very text.
+        text_ = Traits::concatenate_pathname(text_, components, static_cast<int>(form_));
         return *this;
     }
 
@@ -85,9 +86,8 @@ inline ustring const PARENT_DIRECTORY = u"..";
 namespace detail {
 
 /// The name with each run of separators made one and without a separator at its end. "/" stays "/", "//"
-/// becomes
-/// "/"; the result is empty only for an empty name, and is its own native form. "." and ".." stay. `form`
-/// takes the flag of a path; this system has one form, so it decides nothing.
+/// becomes "/"; the result is empty only for an empty name, and is its own native form. "." and ".." stay.
+/// `form` takes the flag of a path; this system has one form, so it decides nothing.
 FL_I18N_EXPORT ustring make_native_form(ustring name, int form = 1);
 
 /// `first` and `second` with one separator between them, however many they bring at the seam: "a/" and "/b"
@@ -127,8 +127,7 @@ FL_I18N_EXPORT std::string make_access_form(std::string name);
 FL_I18N_EXPORT std::string make_native_access_form(ustring name, int form = 1);
 
 /// The same with "." and ".." resolved as text: "/a/./b/../c" gives "/a/c", "/.." gives "/", "a/.." gives
-/// ".",
-/// "../a" stays. Symbolic links are not seen: where "b" is one, the result may name another file.
+/// ".", "../a" stays. Symbolic links are not seen: where "b" is one, the result may name another file.
 FL_I18N_EXPORT std::string make_native_access_form_with_cleanup(ustring name, int form = 1);
 
 /// `make_native_access_form(name, 1)`.

@@ -11,7 +11,7 @@
 ///       </message>
 ///     </rsccat>
 ///
-/// The file is read as UTF-8, whatever its XML declaration says. "version" and "locale" are not looked at. An
+/// The file is read as UTF-8, whatever its XML declaration says; only UTF-16 is told by its first bytes. "version" and "locale" are not looked at. An
 /// entry needs a non-empty "key" and holds text only; of two entries with one key the first is kept. No other
 /// element is allowed. A file that breaks a rule is refused as a whole.
 ///

@@ -10,7 +10,8 @@
 ///         return codecvt.convert(text.data(), text.size());
 ///     }
 ///
-/// All lengths count units of the type they belong to, never with a terminator, and no terminator is written.
+/// All lengths count units of the type they belong to, never with a terminator. No terminator is written
+/// but by the classes that say so.
 /// Failures are exceptions of the `CvtExceptionBase` family.
 ///
 /// An object that drives an ICU converter is for one thread at a time, although its operations are `const`: a

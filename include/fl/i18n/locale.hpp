@@ -114,8 +114,7 @@ public:
     ///   `QnLcInvLcName`, as does an encoding part that is unknown to ICU or to the database;
     /// - a category outside 0 to 5 throws `QnLcDataNotFound`;
     /// - the terminal encoding of a new locale is empty, so that it follows the encoding; a copy takes over
-    /// what
-    ///   its source answers, so that there it is fixed;
+    ///   what its source answers, so that there it is fixed;
     /// - a failure leaves nothing behind.
     ///
     /// An encoding part is opened with ICU's `ucnv_open`, named by `ucnv_getName`, and that name must be in

@@ -43,7 +43,7 @@ struct locale_context;
 
 /// How far start-up has come: 0 initialised, 1 the locale database could not be loaded, 2 not initialised,
 /// 3 the user's locale was unusable; and a warning, which may be there whatever the code is. Thread-safe.
-class LcStatusCtx {
+class FL_I18N_EXPORT LcStatusCtx {
 public:
     std::int32_t code() const noexcept { return code_.load(std::memory_order_acquire); }
     std::string warning() const;
@@ -59,7 +59,7 @@ private:
 
 /// Thread-safe. The object is never destroyed: code that runs during process exit may still ask for the
 /// locale.
-class QnLocaleCtx {
+class FL_I18N_EXPORT QnLocaleCtx {
 public:
     ~QnLocaleCtx();
     QnLocaleCtx(QnLocaleCtx const&) = delete;
@@ -68,16 +68,16 @@ public:
     /// Names of categories and of optional data; ASCII case of a name is ignored. Each throws
     /// `QnLcDataNotFound` for what it doesn't know.
     /// @{
-    FL_I18N_EXPORT QnLocale::LcCategory getLcCategory(std::string_view name) const;
-    FL_I18N_EXPORT std::string getLcCatName(QnLocale::LcCategory category) const;
-    FL_I18N_EXPORT QnLcOptDataCtx::LcOptDataType getOptDataType(std::string_view name) const;
+    QnLocale::LcCategory getLcCategory(std::string_view name) const;
+    std::string getLcCatName(QnLocale::LcCategory category) const;
+    QnLcOptDataCtx::LcOptDataType getOptDataType(std::string_view name) const;
     /// @}
 
     /// Empty, or the one entry "xml_locale_database_path" with the file that start-up tried to load, in the
     /// form that the file system takes.
-    FL_I18N_EXPORT std::map<std::string, std::string> getDataPathNames() const;
+    std::map<std::string, std::string> getDataPathNames() const;
 
-    /// @name For the layers of this library; not exported
+    /// @name For the library's own layers
     /// @{
 
     /// Has the database and the environment, but no locale yet; `make` adds the rest, as far as it can. Both

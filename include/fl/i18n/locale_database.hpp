@@ -127,7 +127,7 @@ public:
     char const* fetch_locale_encoding_map(std::string_view name) const;
     char const* fetch_default_encoding_name(std::string_view name) const; ///< as `fetch_locale_encoding_map`
     char const* fetch_locale_xpg_name_map(std::string_view name) const;
-    std::shared_ptr<encoding_entry_context const> fetch_encoding_entry_map(std::string_view name) const;
+    std::shared_ptr<encoding_entry_context> fetch_encoding_entry_map(std::string_view name) const;
     char const* fetch_encoding_compat_map(std::string_view name) const;
     /// What the language data says about a name: `get_locale_name_element` on this database. No map is asked.
     locale_name_element fetch_language_data_map(std::string_view name) const;
@@ -153,7 +153,7 @@ public:
 
     /// The entry that a name or alias of an encoding leads to, or null. The entry is shared and
     /// may outlive its place in the map; its texts live as long as the database.
-    std::shared_ptr<encoding_entry_context const> get_encoding_context(std::string_view name) const;
+    std::shared_ptr<encoding_entry_context> get_encoding_context(std::string_view name) const;
 
     /// The standard name of an encoding, null if it is unknown: "UTF8" gives "UTF-8".
     char const* get_standard_encoding_name(std::string_view name) const;

@@ -37,6 +37,7 @@ public:
     /// what `other` answers for it. The database is the process-wide one. Throws `std::bad_variant_access` if
     /// `other` is of another class and gives a terminal encoding that is no string.
     explicit QnLocaleImpl(QnLocale const& other);
+    QnLocaleImpl(QnLocaleImpl const& other);
     ~QnLocaleImpl() override;
 
     /// Sets name and modifier of all categories, or of one. The short name of `name` must be known to the

@@ -19,8 +19,7 @@
 #include <fl/i18n/language_context.hpp>
 
 #include <cstddef>
-#include <span>
-#include <string_view>
+#include <string>
 #include <vector>
 
 namespace fl::i18n::lcmgmt {
@@ -53,8 +52,7 @@ FL_I18N_EXPORT std::size_t get_xpg_name_table_size() noexcept;
 struct encoding_name_entry {
     unsigned short encoding; ///< index of the standard name
     unsigned short jvm_name; ///< index of the alias that a Java VM uses; 0xFFFF: the standard name
-    std::span<unsigned short const>
-        aliases; ///< indices of the aliases, the Java name among them; constant data
+    std::vector<unsigned short> aliases; ///< indices of the aliases, the Java name among them
 };
 
 /// A spelling of a locale name and the canonical name that it leads to.
@@ -63,14 +61,14 @@ struct encoding_name_entry {
 /// script if there is one, `separator` and the region if there is one, and `suffix`. A part without a row in
 /// the name tables, such as the retired language "iw", is given as text.
 struct locale_name_entry {
-    std::string_view literal_key;
-    std::string_view language_text;
-    std::string_view script_text;
-    std::string_view region_text;
+    std::string literal_key;
+    std::string language_text;
+    std::string script_text;
+    std::string region_text;
     unsigned short language;
     unsigned short script;
     unsigned short region;
-    std::string_view suffix;
+    std::string suffix;
     char separator;
     unsigned short value; ///< index of the canonical locale name
 };
@@ -81,7 +79,7 @@ struct locale_key_entry {
     unsigned short language;
     unsigned short script;
     unsigned short region;
-    std::string_view suffix;
+    std::string suffix;
     unsigned short value;
 };
 

@@ -15,7 +15,7 @@
 /// global locale, when each call works with the old or with the new encoding. The shared converter of the
 /// process is never used, only cloned.
 ///
-/// When the environment variable `QN_CHAR_ENCODING_DIAG` exists while the library is loaded, the functions
+/// When the environment variable `QN_CHAR_ENCODING_DIAG` exists when the library is loaded, the functions
 /// for the process encoding report each non-ASCII text by a line on the standard output, to find the calls
 /// that should name an encoding.
 #pragma once
@@ -80,8 +80,7 @@ FL_I18N_EXPORT ustring utf8_to_ustring(char const* s, unsigned long len);
 /// @}
 
 /// `s` with its C escapes resolved, as ICU's `u_unescapeAt` reads them: u"a\\tb" gives u"a<tab>b", and an
-/// eight-digit
-/// `\U` escape above U+FFFF gives a surrogate pair. One bad escape, a backslash at the very end for one,
+/// eight-digit `\U` escape above U+FFFF gives a surrogate pair. One bad escape, a backslash at the very end for one,
 /// makes the whole result empty. Throws `CvtSizeTooLarge` for 2^31 units or more.
 FL_I18N_EXPORT ustring unescape_c_mode(ustring const& s);
 

@@ -102,9 +102,10 @@ CvtCtx::CvtCtx(std::unique_ptr<UConverter, lcctype::converter_close>& cnv) : con
 
 void CvtCtx::open_converter(std::string const& encoding) {
     UErrorCode status = U_ZERO_ERROR;
-    converter_.reset(ucnv_open(encoding.c_str(), &status));
+    bool const is_name = encoding.find('\0') == std::string::npos; // ICU would see another, shorter one
+    converter_.reset(is_name ? ucnv_open(encoding.c_str(), &status) : nullptr);
     forget_call_backs();
-    if (U_FAILURE(status))
+    if (U_FAILURE(status) || !is_name)
         raise(CvtInvalidEncodingName(encoding));
 }
 

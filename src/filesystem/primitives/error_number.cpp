@@ -32,7 +32,8 @@ void throw_errno(int error, std::string const& path, std::string const& second_p
     switch (error) {
     case EINVAL:
     case ENOTSUP:
-        support::raise(InvalidArgument(std::generic_category().message(error), name, arguments));
+        support::raise(InvalidArgument(error == EINVAL ? "Invalid argument" : "Operation not supported", name,
+                                       arguments));
     case ENAMETOOLONG:
         support::raise(FileNameTooLarge(name, arguments));
     case EACCES:

@@ -39,7 +39,8 @@ std::size_t convert_name(To* dst, std::size_t capacity, std::basic_string_view<F
                                    support::to_icu_length(source.size(), throw_name_too_large), &status);
     if (U_FAILURE(status) && status != U_BUFFER_OVERFLOW_ERROR)
         throw_conversion_failure(status, source);
-    return support::from_icu_length(size, throw_name_too_large);
+    std::size_t const at_least = sizeof(To) == 1 ? source.size() : 0;
+    return support::from_icu_length(size, at_least, throw_name_too_large);
 }
 
 /// The whole result as a string.
