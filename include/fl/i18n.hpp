@@ -1,5 +1,11 @@
 /// @file
-/// Everything of `fl::i18n`. Each family has a header of its own below <fl/i18n/>.
+/// Everything of `fl::i18n`. Each family has a header of its own below <fl/i18n/>, to include alone where compile
+/// time counts:
+///
+/// - messages: message_catalog.hpp; the file of a resource for a locale: resource_finder.hpp
+/// - locales: locale.hpp; their names as text: locale_name.hpp; what is known of them: locale_database.hpp
+/// - text and bytes: string_conversion.hpp; a named encoding: codecvt.hpp
+/// - characters: character_class.hpp, code_points.hpp, scan.hpp
 #pragma once
 
 #include <fl/i18n/catalog_id.hpp>

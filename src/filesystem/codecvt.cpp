@@ -101,42 +101,8 @@ unsigned long codecvt_filesystem_to_ustring::do_convert(char16_t* dst, unsigned 
     return into(*context_, dst, dst_len, src, src_len);
 }
 
-codecvt_ustring_to_narrow_string::codecvt_ustring_to_narrow_string(bool tolerate)
-    : context_(open_towards_bytes(tolerate)) {}
-
 codecvt_ustring_to_narrow_string::~codecvt_ustring_to_narrow_string() = default;
 
-unsigned long codecvt_ustring_to_narrow_string::do_get_destination_size(char16_t const* src,
-                                                                        unsigned long src_len) const {
-    return into<char>(*context_, nullptr, 0, src, src_len);
-}
-
-std::string codecvt_ustring_to_narrow_string::do_convert(char16_t const* src, unsigned long src_len) const {
-    return whole<char>(*context_, src, src_len);
-}
-
-unsigned long codecvt_ustring_to_narrow_string::do_convert(char* dst, unsigned long dst_len,
-                                                           char16_t const* src, unsigned long src_len) const {
-    return into(*context_, dst, dst_len, src, src_len);
-}
-
-codecvt_narrow_string_to_ustring::codecvt_narrow_string_to_ustring(bool tolerate)
-    : context_(open_towards_text(tolerate)) {}
-
 codecvt_narrow_string_to_ustring::~codecvt_narrow_string_to_ustring() = default;
-
-unsigned long codecvt_narrow_string_to_ustring::do_get_destination_size(char const* src,
-                                                                        unsigned long src_len) const {
-    return into<char16_t>(*context_, nullptr, 0, src, src_len);
-}
-
-ustring codecvt_narrow_string_to_ustring::do_convert(char const* src, unsigned long src_len) const {
-    return whole<char16_t>(*context_, src, src_len);
-}
-
-unsigned long codecvt_narrow_string_to_ustring::do_convert(char16_t* dst, unsigned long dst_len,
-                                                           char const* src, unsigned long src_len) const {
-    return into(*context_, dst, dst_len, src, src_len);
-}
 
 } // namespace fl::filesystem

@@ -1,4 +1,4 @@
-#include "failure.hpp"
+#include "support/failure.hpp"
 
 #include <fl/i18n/catalog_id.hpp>
 

@@ -1,16 +1,14 @@
 // The registry is process-wide and is set once: each test runs in a process of its own.
 
 #include "catalog/catalog_registry.hpp"
-#include "failure.hpp"
+#include "support/failure.hpp"
 #include "support/temp_tree.hpp"
+#include "support/threads.hpp"
 
 #include <fl/i18n/locale.hpp>
 #include <fl/i18n/message_catalog.hpp>
 
 #include <gtest/gtest.h>
-
-#include <latch>
-#include <thread>
 
 namespace fl::i18n {
 namespace {
@@ -135,21 +133,17 @@ TEST_F(CatalogRegistry, FailuresAreNotRemembered) {
 }
 
 TEST_F(CatalogRegistry, ServesManyThreads) {
-    // Warm and cold look-ups, initialisation and flushes at once; ThreadSanitizer judges, and so do the texts.
-    std::latch gate(8);
-    std::vector<std::jthread> pool;
-    for (int number = 0; number < 8; ++number)
-        pool.emplace_back([&, number] {
-            auto const locale = QnLocale::createLocale(number % 2 ? "de_AT" : "fr_FR");
-            gate.arrive_and_wait();
-            ustring const expected = number % 2 ? u"de" : u"fr";
-            init({one_, two_});
-            for (int time = 0; time < 200; ++time) {
-                EXPECT_EQ(expected, MessageCatalog::get_message(MessageID("app:main:k"), *locale));
-                if (time % 20 == number)
-                    MessageCatalog::FlushCatalogFromCache(CatalogID("app:main"));
-            }
-        });
+    // Warm and cold look-ups, initialisation and flushes at once: ThreadSanitizer judges, so do the texts.
+    testing::run_in_threads(8, [&](int number) {
+        auto const locale = QnLocale::createLocale(number % 2 ? "de_AT" : "fr_FR");
+        ustring const expected = number % 2 ? u"de" : u"fr";
+        init({one_, two_});
+        for (int time = 0; time < 200; ++time) {
+            EXPECT_EQ(expected, MessageCatalog::get_message(MessageID("app:main:k"), *locale));
+            if (time % 20 == number)
+                MessageCatalog::FlushCatalogFromCache(CatalogID("app:main"));
+        }
+    });
 }
 
 TEST(CatalogFilePattern, FollowsTheIdentifier) {

@@ -136,8 +136,16 @@ TEST_F(CatalogXml, EntityBombIsRefused) {
     EXPECT_FALSE(load(bomb + "]><rsccat><message><entry key='k'>&e9;</entry></message></rsccat>"));
 }
 
+TEST_F(CatalogXml, EntityChainIsRefusedBeforeItOutgrowsTheStack) {
+    std::string chain = "<!DOCTYPE rsccat [<!ENTITY e0 'a'>";
+    for (int i = 1; i < 50000; ++i)
+        chain += "<!ENTITY e" + std::to_string(i) + " '&e" + std::to_string(i - 1) + ";'>";
+    EXPECT_FALSE(load(chain + "]><rsccat><message><entry key='k'>&e49999;</entry></message></rsccat>"));
+}
+
 TEST_F(CatalogXml, LongEntriesTakeLinearTime) {
     // With quadratic work any of these would keep the test busy for minutes.
+    EXPECT_TRUE(load(catalog("<!--" + std::string(16 << 20, 'c') + "--><entry key='k'>x</entry>")));
     for (auto const& [piece, folded] :
          {std::pair("&amp;", "&"), std::pair("ab\n ", "ab "), std::pair(" \n", ""), std::pair("a ", "a ")}) {
         EXPECT_TRUE(load(catalog("<entry key='k'>" + repeated(piece, 500'000) + "x</entry>"))) << piece;

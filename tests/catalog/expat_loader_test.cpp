@@ -1,4 +1,4 @@
-#include "failure.hpp"
+#include "support/failure.hpp"
 #include "support/raise.hpp"
 #include "support/temp_tree.hpp"
 

@@ -1,4 +1,4 @@
-#include "failure.hpp"
+#include "support/failure.hpp"
 
 #include <fl/i18n/cvt_exception.hpp>
 #include <fl/i18n/message_catalog.hpp>
@@ -73,15 +73,20 @@ TEST(GetFormattedMessage, RefusesBadPatternsAndNames) {
     EXPECT_THROW(format(u"{_x}", texts(1)), std::invalid_argument);
     EXPECT_THROW(format(u"{99999999999999999999_x}", texts(1)), std::out_of_range);
     EXPECT_THROW(format(u"{1\u00e4}", texts(1)), CvtInvalidCharacter);
-    auto const nested = [](std::size_t levels) {
-        ustring message = u"'" + ustring(1000, u'{') + u"'"; // quoted braces nest nothing
+}
+
+TEST(GetFormattedMessage, RefusesPatternsThatWouldOutgrowTheStack) {
+    auto const nested = [](ustring const& hole, std::size_t levels, ustring start = {}) {
         for (std::size_t i = 0; i < levels; ++i)
-            message += u"{0,select,other{";
-        return message + ustring(2 * levels, u'}');
+            start += hole;
+        return start + ustring(2 * levels + 1, u'}');
     };
-    EXPECT_EQ(format(nested(50), texts(1)).size(), 1000U);
-    for (std::size_t const levels : {51U, 30000U})
-        EXPECT_EQ(failure<FormatIncorrect>(format, nested(levels), texts(1)), incorrect);
+    ustring const select = u"{0,select,other{";
+    EXPECT_EQ(format(nested(select, 50), texts(1)), u"}") << "the last brace stands outside";
+    for (ustring const& pattern :
+         {nested(select, 51), nested(select, 20000), nested(select, 20000, ustring(40010, u'}')),
+          nested(u"{0 , SELECT, other{", 20000, u"{0,select,other{a'b"), nested(u"{0,choice,0#", 20000)})
+        EXPECT_EQ(failure<FormatIncorrect>(format, pattern, texts(1)), incorrect);
 }
 
 TEST(GetFormattedMessageByFunction, FillsEachHoleOnce) {
@@ -90,21 +95,21 @@ TEST(GetFormattedMessageByFunction, FillsEachHoleOnce) {
         calls += hole.first + ustring(1, static_cast<char16_t>(u'0' + hole.second)) + u";";
         values.at(hole.second) = hole.first + u"!";
     };
-    EXPECT_EQ(format(u"{1_date} {0} {2_time} {0}", 3, fill), u"date! ! time! !");
+    EXPECT_EQ(format(u"{1_date} {0} {2_time} {0}", 3U, fill), u"date! ! time! !");
     EXPECT_EQ(calls, u"0;date1;time2;");
-    EXPECT_EQ(format(u"it''s", 0, hole_fill_function()), u"it's");
-    EXPECT_EQ(format(u"it''s {a}", 0, hole_fill_function()), u"it''s {a}") << "not formatted";
-    EXPECT_EQ(format(u"{0}", 1, [](holes& values, auto const&) { values.clear(); }), u"{0}");
+    EXPECT_EQ(format(u"it''s", 0U, hole_fill_function()), u"it's");
+    EXPECT_EQ(format(u"it''s {a}", 0U, hole_fill_function()), u"it''s {a}") << "not formatted";
+    EXPECT_EQ(format(u"{0}", 1U, [](holes& values, auto const&) { values.clear(); }), u"{0}");
 }
 
 TEST(GetFormattedMessageByFunction, Failures) {
     hole_fill_function const none, fill = [](holes&, auto const&) { throw std::range_error("fill"); };
-    EXPECT_EQ(failure<FormatIncorrect>(format, u"{0}", 1, none), incorrect);
-    EXPECT_EQ(failure<HoleCount>(format, u"{0}", 0, none), counts("1 but found : 0"));
-    EXPECT_EQ(failure<HoleCount>(format, u"{0}", 2, fill), counts("1 but found : 2"));
-    EXPECT_EQ(failure<HoleCount>(format, u"{a} {b}", 2, fill), counts("0 but found : 2"));
-    EXPECT_THROW(format(u"{0}", 1, fill), std::range_error);
-    EXPECT_THROW(format(u"{4294967296_x}", 1, fill), boost::numeric::positive_overflow);
+    EXPECT_EQ(failure<FormatIncorrect>(format, u"{0}", 1U, none), incorrect);
+    EXPECT_EQ(failure<HoleCount>(format, u"{0}", 0U, none), counts("1 but found : 0"));
+    EXPECT_EQ(failure<HoleCount>(format, u"{0}", 2U, fill), counts("1 but found : 2"));
+    EXPECT_EQ(failure<HoleCount>(format, u"{a} {b}", 2U, fill), counts("0 but found : 2"));
+    EXPECT_THROW(format(u"{0}", 1U, fill), std::range_error);
+    EXPECT_THROW(format(u"{4294967296_x}", 1U, fill), boost::numeric::positive_overflow);
     holes one{1LL};
     EXPECT_THROW(MessageCatalogImpl::GetFormattedMessageImpl(u"{0}", one, none), std::bad_function_call);
 }

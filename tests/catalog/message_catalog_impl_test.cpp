@@ -1,4 +1,4 @@
-#include "failure.hpp"
+#include "support/failure.hpp"
 #include "support/temp_tree.hpp"
 
 #include <fl/i18n/message_catalog.hpp>

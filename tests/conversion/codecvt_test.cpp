@@ -40,10 +40,11 @@ static std::basic_string<To> expect_as_icu(converter<To, From> const& cvt, From 
     EXPECT_TRUE(U_SUCCESS(status) && expected == cvt.convert(src.get(), size)) << size << " units";
     for (std::size_t const room : {expected.size(), expected.size() / 2, std::size_t(0)}) {
         auto const dst = std::make_unique<To[]>(room);
-        std::size_t const total = steady ? cvt.convert(dst.get(), room, src.get(), size) : expected.size();
-        EXPECT_EQ(total, expected.size()) << room;
-        EXPECT_TRUE(!steady || std::equal(dst.get(), dst.get() + room, expected.begin()))
-            << room << " of " << size;
+        std::size_t const total = cvt.convert(dst.get(), room, src.get(), size);
+        if (steady) {
+            EXPECT_EQ(total, expected.size()) << room;
+            EXPECT_TRUE(std::equal(dst.get(), dst.get() + room, expected.begin())) << room << " of " << size;
+        }
     }
     return expected;
 }

@@ -3,6 +3,7 @@
 #include "platform/platform.hpp"
 #include "support/ascii.hpp"
 #include "support/temp_tree.hpp"
+#include "support/threads.hpp"
 
 #include <fl/filesystem/exceptions.hpp>
 #include <fl/filesystem/install_path.hpp>
@@ -10,7 +11,6 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
-#include <thread>
 
 #define DIR FL_I18N_PLATFORM_DIR // to be joined with literals
 using namespace fl::filesystem;
@@ -65,10 +65,7 @@ TEST_F(InstallPathTest, IsTextComputedOnceAfterAFailedTry) {
     path = "throw";
     EXPECT_THROW(get_install_path(), std::string);
     path = "/o\xC3\xA9\xFF/bin/" DIR "/lib.so";
-    std::vector<std::jthread> threads;
-    for (int i = 0; i < 8; ++i)
-        threads.emplace_back([] { EXPECT_EQ(get_install_path(), u"/o\u00E9\uFFFD"); });
-    threads.clear();
+    fl::testing::run_in_threads(8, [](int) { EXPECT_EQ(get_install_path(), u"/o\u00E9\uFFFD"); });
     EXPECT_EQ(calls, 2);
     EXPECT_EQ(fl::i18n::detail::get_module_path_from_address(this), u"/o\u00E9\uFFFD/bin/" DIR "/lib.so");
     EXPECT_EQ(fl::i18n::detail::get_module_path_from_address(nullptr), u"");

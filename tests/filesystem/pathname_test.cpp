@@ -49,6 +49,9 @@ TEST(Pathname, ConcatenatesWithOneSeparator) {
         EXPECT_EQ(narrow::concatenate_pathname(first, second), expected) << first << " and " << second;
         EXPECT_EQ(native_path(first) / second, native_path(expected)) << first << " and " << second;
     }
+    upath twice(ustring(100, u'x')); // long enough to live on the heap
+    twice /= twice.string();
+    EXPECT_EQ(twice, upath(ustring(100, u'x') + u"/" + ustring(100, u'x')));
     EXPECT_EQ(upath(u"\u00E9/", 1) / u"b", upath(u"\u00E9/b", 7));
     EXPECT_LT(upath(u"\U0001F600"), upath(u"\uFF5E")); // by code unit
 }

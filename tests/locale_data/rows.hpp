@@ -3,6 +3,7 @@
 
 #include <array>
 #include <sstream>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -16,5 +17,7 @@ std::vector<std::array<std::string, Columns>> rows(char const* text) {
             result.emplace_back();
         result.back()[count % Columns] = field == "~" ? "" : field;
     }
+    if (count == 0 || count % Columns != 0)
+        throw std::invalid_argument(text);
     return result;
 }

@@ -2,6 +2,7 @@
 #include "locale_data/rows.hpp"
 #include "locale_runtime/discovery_record.hpp"
 #include "locale_runtime/global_locale_slot.hpp"
+#include "support/threads.hpp"
 
 #include <fl/i18n/lc_data.hpp>
 #include <fl/i18n/locale_context.hpp>
@@ -11,21 +12,9 @@
 #include <unicode/locid.h>
 #include <unicode/ucnv.h>
 
-#include <latch>
-#include <thread>
-
 using namespace fl::i18n;
 using namespace fl::i18n::lcmgmt;
-
-static void run_in_threads(int count, auto const& work) {
-    std::latch gate(count);
-    std::vector<std::jthread> threads;
-    for (int i = 0; i < count; ++i)
-        threads.emplace_back([&, i] {
-            gate.arrive_and_wait();
-            work(i);
-        });
-}
+using fl::testing::run_in_threads;
 
 static void publish(std::string const& name) {
     auto slot = std::make_unique<global_locale_slot>(std::make_unique<QnLocaleImpl>(name));

@@ -31,7 +31,7 @@ TEST(LocaleImpl, StoresNamesAsGivenAndKeepsThemOnRefusal) {
 TEST(LocaleImpl, TerminalEncodingFollowsTheEncodingUntilCopied) {
     QnLocaleImpl locale("ja_JP");
     EXPECT_EQ(text_of(locale, QnLcOptDataCtx::jvm_encoding), "MS932");
-    QnLocaleImpl copy(static_cast<QnLocale const&>(locale));
+    QnLocaleImpl copy(locale);
     EXPECT_EQ(copy, locale);
     copy.setEncoding("UTF-8");
     EXPECT_NE(copy, locale);

@@ -1,11 +1,11 @@
 #include "support/once_value.hpp"
+#include "support/threads.hpp"
 
 #include <gtest/gtest.h>
 
 #include <atomic>
 #include <chrono>
 #include <thread>
-#include <vector>
 
 namespace fl::support {
 namespace {
@@ -18,9 +18,7 @@ TEST(OnceValue, IsMadeByOneThreadAfterAFailureAndSeenByAll) {
         std::this_thread::sleep_for(std::chrono::milliseconds(50)); // so that the others come meanwhile
         return ++made;
     };
-    std::vector<std::jthread> pool;
-    for (int number = 0; number < 8; ++number)
-        pool.emplace_back([&] { EXPECT_EQ(1, value.get(make)); });
+    testing::run_in_threads(8, [&](int) { EXPECT_EQ(1, value.get(make)); });
 }
 
 } // namespace

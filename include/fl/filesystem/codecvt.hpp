@@ -65,36 +65,18 @@ private:
     std::unique_ptr<fl::i18n::CvtCtx> context_;
 };
 
-/// As `codecvt_ustring_to_filesystem`, for other text than names.
-class FL_I18N_EXPORT codecvt_ustring_to_narrow_string : public fl::i18n::converter<char, char16_t> {
+/// The same conversion, for other text than names.
+class FL_I18N_EXPORT codecvt_ustring_to_narrow_string : public codecvt_ustring_to_filesystem {
 public:
-    explicit codecvt_ustring_to_narrow_string(bool tolerate);
+    using codecvt_ustring_to_filesystem::codecvt_ustring_to_filesystem;
     ~codecvt_ustring_to_narrow_string() override;
-
-protected:
-    unsigned long do_get_destination_size(char16_t const* src, unsigned long src_len) const override;
-    std::string do_convert(char16_t const* src, unsigned long src_len) const override;
-    unsigned long do_convert(char* dst, unsigned long dst_len, char16_t const* src,
-                             unsigned long src_len) const override;
-
-private:
-    std::unique_ptr<fl::i18n::CvtCtx> context_;
 };
 
-/// As `codecvt_filesystem_to_ustring`, for other text than names.
-class FL_I18N_EXPORT codecvt_narrow_string_to_ustring : public fl::i18n::converter<char16_t, char> {
+/// The same conversion, for other text than names.
+class FL_I18N_EXPORT codecvt_narrow_string_to_ustring : public codecvt_filesystem_to_ustring {
 public:
-    explicit codecvt_narrow_string_to_ustring(bool tolerate);
+    using codecvt_filesystem_to_ustring::codecvt_filesystem_to_ustring;
     ~codecvt_narrow_string_to_ustring() override;
-
-protected:
-    unsigned long do_get_destination_size(char const* src, unsigned long src_len) const override;
-    ustring do_convert(char const* src, unsigned long src_len) const override;
-    unsigned long do_convert(char16_t* dst, unsigned long dst_len, char const* src,
-                             unsigned long src_len) const override;
-
-private:
-    std::unique_ptr<fl::i18n::CvtCtx> context_;
 };
 
 } // namespace fl::filesystem

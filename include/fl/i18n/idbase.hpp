@@ -1,6 +1,9 @@
 /// @file
 /// Plain identifier records, as callers (often generated code) bring them: they name a catalog or a message
 /// and hold the values for the holes of the message. The library only reads them.
+///
+///     fl::i18n::idbase::BaseMsgID const id{{fl::ustring(u"Ada"), 3LL}, "shop:cart", "items_of"};
+///     fl::ustring const text = fl::i18n::MessageCatalog::get_message(id);
 #pragma once
 
 #include <fl/i18n/ustring.hpp>

@@ -18,6 +18,7 @@
 
 namespace fl::i18n::lcmgmt {
 
+/// Look-ups on the process-wide locale database, and the text rule for short names.
 class FL_I18N_EXPORT LcData {
 public:
     /// The text before the first "." or "@": a locale name without encoding and modifiers. Nothing is

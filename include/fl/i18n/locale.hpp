@@ -69,6 +69,7 @@ public:
 using lc_opt_data_value =
     std::variant<std::string, QnLcOptDataCtx::PaperSize, QnLcOptDataCtx::MeasurementSystem>;
 
+/// A locale: names for six categories, a text encoding and a terminal encoding.
 class FL_I18N_EXPORT QnLocale : public boost::noncopyable {
 public:
     /// The categories. They are this library's own, with values unlike those of the C library's `LC_*`

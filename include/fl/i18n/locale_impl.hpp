@@ -27,6 +27,8 @@ namespace lcmgmt {
 class locale_database;
 }
 
+/// The one implementation of `QnLocale`. Its setters are for an object under construction: once it is shared,
+/// a locale never changes.
 class FL_I18N_EXPORT QnLocaleImpl final : public QnLocale {
 public:
     /// A locale whose names and encodings are all empty. `database` must outlive it.

@@ -122,7 +122,8 @@ TEST(CvtCtx, ReopeningForgetsModesAndKeepsTheNamesIfItSucceeds) {
     EXPECT_EQ(encode(ctx, u"\u00E9"), "U_INVALID_CHAR_FOUND");
     EXPECT_EQ(ctx.get_encoding(), "ISO-8859-1");
     CvtCtx gone("UTF-8");
-    EXPECT_EQ(refusal([&] { gone.open_converter("no-such-encoding"); }), CvtInvalidEncodingName("").kind());
+    for (std::string const& unknown : {std::string("no-such-encoding"), std::string("UTF-8\0x", 7)})
+        EXPECT_EQ(refusal([&] { gone.open_converter(unknown); }), CvtInvalidEncodingName("").kind());
     EXPECT_THROW(gone.change_from_call_back(stop_call_back, ""), CvtCallBackSettingFailure);
     EXPECT_THROW(gone.change_from_substitution("?"), CvtCallBackSettingFailure);
     EXPECT_THROW(gone.change_to_call_back(stop_call_back), CvtCallBackSettingFailure);
