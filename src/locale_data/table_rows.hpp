@@ -7,6 +7,7 @@
 #include "locale_data/locale_value_tables.hpp"
 #include "locale_data/region_name_tables.hpp"
 #include "locale_data/script_name_tables.hpp"
+#include "locale_data/value_names.hpp"
 
 #include <fl/i18n/locale_tables.hpp>
 
@@ -65,7 +66,7 @@ struct locale_key_row {
     operator locale_key_entry() const { return {language, script, region, std::string(suffix), value}; }
 };
 
-inline constexpr unsigned short none = 0xFFFF;
+inline constexpr unsigned short none = no_name;
 inline constexpr unsigned char preferred = 1;
 
 /// The index of a name, or `none` if the table lacks it.

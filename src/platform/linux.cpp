@@ -1,14 +1,11 @@
-#include "platform/platform.hpp"
+#include "platform/posix.hpp"
 #include "platform/stat_times.hpp"
 
 #include <array>
-#include <cerrno>
 #include <climits>
 #include <cstdlib>
 #include <dlfcn.h>
-#include <fcntl.h>
 #include <sys/auxv.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace fl::platform {
@@ -56,7 +53,7 @@ std::string main_program_path() {
     return length > 0 ? std::string(path.data(), static_cast<std::size_t>(length)) : std::string();
 }
 
-class linux_services : public services {
+class linux_services : public posix_services {
 public:
     int volume_flags(std::string const&, std::uint32_t& flags) const override {
         flags = 0; // names are bytes here, and no call would say otherwise
@@ -75,12 +72,6 @@ public:
             return own_name.path.data();
         std::array<char, PATH_MAX> path;
         return ::realpath(module.dli_fname, path.data()) != nullptr ? path.data() : module.dli_fname;
-    }
-
-    int set_file_times(std::string const& path, std::timespec const& access,
-                       std::timespec const& modification) const override {
-        std::timespec const times[] = {access, modification};
-        return ::utimensat(AT_FDCWD, path.c_str(), times, 0) == 0 ? 0 : errno;
     }
 };
 

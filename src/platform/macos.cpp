@@ -1,9 +1,8 @@
-#include "platform/platform.hpp"
+#include "platform/posix.hpp"
 #include "platform/stat_times.hpp"
 
 #include <cerrno>
 #include <dlfcn.h>
-#include <fcntl.h>
 #include <string_view>
 #include <sys/attr.h>
 #include <sys/mount.h>
@@ -38,7 +37,7 @@ std::uint32_t case_flag_of_volume(char const* mount_point) noexcept {
     return (format & VOL_CAP_FMT_CASE_SENSITIVE) != 0 ? 0 : volume_case_insensitive;
 }
 
-class macos_services : public services {
+class macos_services : public posix_services {
 public:
     int volume_flags(std::string const& path, std::uint32_t& flags) const override {
         struct statfs volume {};
@@ -53,12 +52,6 @@ public:
         if (address == nullptr || ::dladdr(address, &module) == 0 || module.dli_fname == nullptr)
             return {};
         return module.dli_fname;
-    }
-
-    int set_file_times(std::string const& path, std::timespec const& access,
-                       std::timespec const& modification) const override {
-        std::timespec const times[] = {access, modification};
-        return ::utimensat(AT_FDCWD, path.c_str(), times, 0) == 0 ? 0 : errno;
     }
 };
 

@@ -2,14 +2,7 @@ cmake_minimum_required(VERSION 3.25)
 
 # Installs the library and the demo into a fresh tree, writes catalogs beside them, and runs the demo.
 file(REMOVE_RECURSE "${STAGE}")
-function(run)
-  execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
-  if(NOT result EQUAL 0)
-    list(JOIN ARGN " " command)
-    message(FATAL_ERROR "${command}: ${result}\n${output}")
-  endif()
-  set(output "${output}" PARENT_SCOPE)
-endfunction()
+include("${CMAKE_CURRENT_LIST_DIR}/run.cmake")
 
 run("${CMAKE_COMMAND}" --install "${BUILD_DIR}" --prefix "${STAGE}")
 run("${CMAKE_COMMAND}" --install "${BUILD_DIR}" --prefix "${STAGE}" --component demo)
