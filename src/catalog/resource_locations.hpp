@@ -32,7 +32,7 @@ public:
     }
 
 private:
-    std::vector<resource_location> const initial_;
+    std::vector<resource_location> const initial_{};
     std::atomic<std::vector<resource_location> const*> current_{&initial_};
     std::vector<std::unique_ptr<std::vector<resource_location> const>> versions_;
 };
