@@ -202,13 +202,13 @@ void register_conversion_benchmarks() {
         char const* language;
     } const kinds[] = {{"UTF-8", "fr"}, {"ISO-8859-1", "de"}, {"Shift_JIS", "ja"}};
     for (auto const& kind : kinds)
-        for (std::size_t const size : {1000, 10000, 100000}) {
+        for (std::size_t const size : {1000U, 10000U, 100000U}) {
             std::string const name = std::string("convert/") + kind.encoding + "/" + std::to_string(size);
             auto const with = std::make_shared<sample>(kind.encoding, kind.language, size);
             register_buffer_forms(name, with);
             register_string_forms(name, with);
         }
-    for (std::size_t const size : {20, 200, 1000})
+    for (std::size_t const size : {20U, 200U, 1000U})
         register_front_end(size);
 }
 

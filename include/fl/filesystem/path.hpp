@@ -76,11 +76,11 @@ private:
     std::uint32_t form_ = 1;
 };
 
-/// The names that are fixed by the system.
+/// The names that are fixed by the system: "/", "." and "..".
 namespace upath_constant {
-inline ustring const PATHNAME_SEPARATOR = u"/";
-inline ustring const CURRENT_DIRECTORY = u".";
-inline ustring const PARENT_DIRECTORY = u"..";
+FL_I18N_EXPORT extern ustring const PATHNAME_SEPARATOR;
+FL_I18N_EXPORT extern ustring const CURRENT_DIRECTORY;
+FL_I18N_EXPORT extern ustring const PARENT_DIRECTORY;
 } // namespace upath_constant
 
 namespace detail {

@@ -5,7 +5,15 @@
 #include <fl/filesystem/exceptions.hpp>
 #include <fl/filesystem/path.hpp>
 
-namespace fl::filesystem::detail {
+namespace fl::filesystem {
+
+namespace upath_constant {
+ustring const PATHNAME_SEPARATOR = u"/";
+ustring const CURRENT_DIRECTORY = u".";
+ustring const PARENT_DIRECTORY = u"..";
+} // namespace upath_constant
+
+namespace detail {
 
 ustring make_native_form(ustring name, int) {
     return native_form(std::move(name));
@@ -83,4 +91,5 @@ std::string path_traits<char, char>::remove_filename(std::string_view name) {
     return std::string(without_last_component(name));
 }
 
-} // namespace fl::filesystem::detail
+} // namespace detail
+} // namespace fl::filesystem
