@@ -73,7 +73,9 @@ struct below {
 
     upath operator()(ustring const& file_name) const {
         for (upath const& base : base_paths) {
-            upath found = existing(base.string() + upath_constant::PATHNAME_SEPARATOR + file_name);
+            ustring candidate = base.string();
+            candidate += upath_constant::PATHNAME_SEPARATOR;
+            upath found = existing(candidate += file_name);
             if (!found.empty())
                 return found;
         }

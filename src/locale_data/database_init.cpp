@@ -18,8 +18,10 @@ using name_accessor = char const* (*)(unsigned short) noexcept;
 /// Every name of a table, lower-case, to its index.
 void load_names(index_map& map, name_accessor name_of, std::size_t count) {
     map.reserve(count);
-    for (unsigned short index = 0; index < count; ++index)
+    for (std::size_t place = 0; place < count; ++place) {
+        auto const index = static_cast<unsigned short>(place);
         map.insert_or_assign(support::ascii_lower_copy(name_of(index)), index);
+    }
 }
 
 void load_languages(locale_database_context& context) {

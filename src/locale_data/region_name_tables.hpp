@@ -265,6 +265,7 @@ inline constexpr char const* region_names[] = {
     "ZA",
     "ZM",
     "ZW",
+    // NOLINTNEXTLINE(bugprone-suspicious-missing-comma): one text over two lines
     "AC AR AT BA BD BE BG BR CH CL CY CZ DE DK DZ EG ES ET FI FR GR HR HU IL IQ IT JO KZ LB LK LT "
     "MA MX MY NL PL PT RO SE SI SK TA TH TR YE",
     "AD BZ DE GI PH US",

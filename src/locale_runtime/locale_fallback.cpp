@@ -18,7 +18,7 @@ ustring widen(std::string const& text) {
 template <class String>
 void append_fallback_list(std::vector<String>& list, String const& name, String const& fallback) {
     // The arguments may be elements of the list, which an append moves.
-    String const last = fallback;
+    String const last = fallback; // NOLINT(performance-unnecessary-copy-initialization)
     list.push_back(String(name));
     typename String::size_type const cut = list.back().rfind('_');
     if (cut != String::npos)

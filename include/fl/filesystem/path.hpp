@@ -128,13 +128,13 @@ FL_I18N_EXPORT std::string make_native_access_form(ustring name, int form = 1);
 
 /// The same with "." and ".." resolved as text: "/a/./b/../c" gives "/a/c", "/.." gives "/", "a/.." gives
 /// ".", "../a" stays. Symbolic links are not seen: where "b" is one, the result may name another file.
-FL_I18N_EXPORT std::string make_native_access_form_with_cleanup(ustring name, int form = 1);
+FL_I18N_EXPORT std::string make_native_access_form_with_cleanup(ustring const& name, int form = 1);
 
 /// `make_native_access_form(name, 1)`.
 FL_I18N_EXPORT std::string make_native_access_form_i18n(ustring name);
 
 /// `make_native_access_form_with_cleanup(name, 1)`.
-FL_I18N_EXPORT std::string make_native_access_form_with_cleanup_i18n(ustring name);
+FL_I18N_EXPORT std::string make_native_access_form_with_cleanup_i18n(ustring const& name);
 
 /// Throws `InvalidArgument`: an iterator was used past its end.
 [[noreturn]] FL_I18N_EXPORT void throw_invalid_operation_exception();

@@ -59,7 +59,7 @@ std::string make_native_access_form(ustring name, int form) {
     return make_access_form(to_filesystem(make_native_form(std::move(name), form)));
 }
 
-std::string make_native_access_form_with_cleanup(ustring name, int) {
+std::string make_native_access_form_with_cleanup(ustring const& name, int) {
     return make_access_form(to_filesystem(resolved_form<char16_t>(name)));
 }
 
@@ -67,8 +67,8 @@ std::string make_native_access_form_i18n(ustring name) {
     return make_native_access_form(std::move(name), 1);
 }
 
-std::string make_native_access_form_with_cleanup_i18n(ustring name) {
-    return make_native_access_form_with_cleanup(std::move(name), 1);
+std::string make_native_access_form_with_cleanup_i18n(ustring const& name) {
+    return make_native_access_form_with_cleanup(name, 1);
 }
 
 void throw_invalid_operation_exception() {

@@ -76,11 +76,10 @@ std::vector<std::basic_string_view<Char>> resolved_components(std::basic_string_
         name.remove_prefix(std::min(component.size() + 1, name.size()));
         if (component.empty() || component == parent.substr(1))
             continue;
-        if (component != parent)
-            result.push_back(component);
-        else if (!result.empty() && result.back() != parent)
+        bool const leads_up = component == parent;
+        if (leads_up && !result.empty() && result.back() != parent)
             result.pop_back();
-        else if (!absolute) // the root is its own parent
+        else if (!leads_up || !absolute) // the root is its own parent
             result.push_back(component);
     }
     return result;
