@@ -12,8 +12,17 @@ constexpr char version_attribute[] = "version";
 constexpr char locale_attribute[] = "locale";
 constexpr char key_attribute[] = "key";
 
-bool is_category_attribute(std::string_view name) noexcept {
-    return name == version_attribute || name == locale_attribute;
+/// Unlike strcmp this is expanded in place: names are compared twice for each message.
+template <std::size_t Size>
+bool equal(char const* name, char const (&known)[Size]) noexcept {
+    for (std::size_t i = 0; i < Size; ++i)
+        if (name[i] != known[i])
+            return false;
+    return true;
+}
+
+bool is_category_attribute(char const* name) noexcept {
+    return equal(name, version_attribute) || equal(name, locale_attribute);
 }
 
 } // namespace
@@ -27,12 +36,11 @@ MessageCatalogExpatEventHandler::MessageCatalogExpatEventHandler(MessageCatalogD
 MessageCatalogExpatEventHandler::~MessageCatalogExpatEventHandler() = default;
 
 bool MessageCatalogExpatEventHandler::doElementStart(char const* name, char const** attributes) {
-    std::string_view const tag = name;
-    if (tag == entry_tag)
+    if (equal(name, entry_tag))
         return processEntryTag(attributes);
-    if (tag == message_tag)
+    if (equal(name, message_tag))
         return processMsgTag(attributes);
-    return tag == category_tag && processCatTag(attributes);
+    return equal(name, category_tag) && processCatTag(attributes);
 }
 
 bool MessageCatalogExpatEventHandler::processCatTag(char const** attributes) {
@@ -60,7 +68,7 @@ bool MessageCatalogExpatEventHandler::processEntryTag(char const** attributes) {
     for (; *attributes; attributes += 2) {
         if (!attributes[1])
             return false;
-        if (std::string_view(attributes[0]) == key_attribute)
+        if (equal(attributes[0], key_attribute))
             key_ = attributes[1];
     }
     return true;
@@ -73,7 +81,7 @@ bool MessageCatalogExpatEventHandler::doElementData(char const* data, int length
 }
 
 bool MessageCatalogExpatEventHandler::doElementEnd(char const* name) {
-    if (std::string_view(name) != entry_tag)
+    if (!equal(name, entry_tag))
         return true;
     if (state_ != parse_state::in_entries || key_.empty())
         return false; // here an entry without a usable key is found out

@@ -57,16 +57,16 @@ std::int32_t decode_utf8(char const* bytes, std::int32_t length, char16_t* units
 
 /// Texts of the usual length are decoded aside first, so that each takes just the room of its units: a short one
 /// fits into the object itself.
-void assign_utf8(icu::UnicodeString& text, char const* bytes, std::int32_t length) {
+icu::UnicodeString text_from_utf8(char const* bytes, std::int32_t length) {
     std::array<char16_t, 512> aside;
-    if (length <= static_cast<std::int32_t>(aside.size())) {
-        text.setTo(aside.data(), decode_utf8(bytes, length, aside.data()));
-        return;
-    }
+    if (length <= static_cast<std::int32_t>(aside.size()))
+        return {aside.data(), decode_utf8(bytes, length, aside.data())};
+    icu::UnicodeString text;
     char16_t* const units = text.getBuffer(length);
     if (!units)
         support::raise(std::bad_alloc());
     text.releaseBuffer(decode_utf8(bytes, length, units));
+    return text;
 }
 
 } // namespace
@@ -81,11 +81,8 @@ void XMLCatalogDataStore::addEntry(std::string const& key, std::string const& va
     auto const length = boost::numeric_cast<std::int32_t>(value.size());
     if (messages_.size() == messages_.bucket_count())
         messages_.reserve(std::max(first_buckets, bucket_growth * messages_.size()));
-    auto const [message, added] = messages_.try_emplace(key);
-    if (!added)
-        return;
-    assign_utf8(message->second, value.data(), length);
-    if (value.find('\\') != std::string::npos)
+    auto const [message, added] = messages_.try_emplace(key, text_from_utf8(value.data(), length));
+    if (added && value.find('\\') != std::string::npos)
         message->second = message->second.unescape();
 }
 
