@@ -1,7 +1,7 @@
 # The install tree is relocatable, and the library finds it from its own location:
 #
 #   bin/<platform>/   the shared library
-#   bin/lcdata.xml    corrections to the locale tables (shipped empty; not read yet)
+#   bin/lcdata.xml    corrections to the locale tables (shipped empty)
 #   resources/        message catalogs
 #   include/          public headers
 #   lib/cmake/fl_i18n, lib/pkgconfig

@@ -3,8 +3,10 @@
 /// time counts:
 ///
 /// - messages: message_catalog.hpp; the file of a resource for a locale: resource_finder.hpp
+/// - start-up and changes of the global locale: startup.hpp; what came of it: locale_status.hpp
 /// - locales: locale.hpp; their names as text: locale_name.hpp; what is known of them: locale_database.hpp
 /// - text and bytes: string_conversion.hpp; a named encoding: codecvt.hpp
+/// - environment variables: environment.hpp
 /// - characters: character_class.hpp, code_points.hpp, scan.hpp
 #pragma once
 
@@ -20,21 +22,29 @@
 #include <fl/i18n/converter.hpp>
 #include <fl/i18n/cvt_ctx.hpp>
 #include <fl/i18n/cvt_exception.hpp>
+#include <fl/i18n/discovery_record.hpp>
+#include <fl/i18n/environment.hpp>
 #include <fl/i18n/expat_loader.hpp>
 #include <fl/i18n/export.hpp>
 #include <fl/i18n/idbase.hpp>
+#include <fl/i18n/java_vm_context.hpp>
 #include <fl/i18n/language_context.hpp>
 #include <fl/i18n/lc_data.hpp>
+#include <fl/i18n/lc_data_exceptions.hpp>
+#include <fl/i18n/lc_data_xml.hpp>
 #include <fl/i18n/locale.hpp>
 #include <fl/i18n/locale_context.hpp>
 #include <fl/i18n/locale_database.hpp>
+#include <fl/i18n/locale_discovery.hpp>
 #include <fl/i18n/locale_exceptions.hpp>
 #include <fl/i18n/locale_fallback.hpp>
 #include <fl/i18n/locale_impl.hpp>
 #include <fl/i18n/locale_name.hpp>
+#include <fl/i18n/locale_status.hpp>
 #include <fl/i18n/locale_tables.hpp>
 #include <fl/i18n/message_catalog.hpp>
 #include <fl/i18n/resource_finder.hpp>
 #include <fl/i18n/scan.hpp>
+#include <fl/i18n/startup.hpp>
 #include <fl/i18n/string_conversion.hpp>
 #include <fl/i18n/ustring.hpp>

@@ -24,12 +24,12 @@ void QnLocaleCtx::log_event(std::string_view title, std::string_view text, int i
 }
 
 void QnLocaleCtx::log_entry(std::string entry) {
-    std::lock_guard const lock(event_log_mutex_);
+    std::lock_guard const lock(records_mutex_);
     event_log_.push_back(std::move(entry));
 }
 
 std::vector<std::string> QnLocaleCtx::event_log() const {
-    std::lock_guard const lock(event_log_mutex_);
+    std::lock_guard const lock(records_mutex_);
     return event_log_;
 }
 

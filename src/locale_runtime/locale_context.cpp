@@ -43,7 +43,10 @@ bool is_term_encoding_consistent() noexcept {
     return true;
 }
 
-QnLocaleCtx::QnLocaleCtx() : discovery_(std::make_unique<locale_context>(read_environment_snapshot())) {}
+QnLocaleCtx::QnLocaleCtx() : discovery_(std::make_unique<locale_context>(read_environment_snapshot())) {
+    databases_.push_back(std::make_unique<locale_database>());
+    database_.store(databases_.back().get(), std::memory_order_release);
+}
 
 QnLocaleCtx::~QnLocaleCtx() = default;
 
@@ -68,7 +71,7 @@ void QnLocaleCtx::initQnLcCtx() {
 }
 
 void QnLocaleCtx::make_classic_slot() {
-    auto locale = std::make_unique<QnLocaleImpl>(database_);
+    auto locale = std::make_unique<QnLocaleImpl>(database());
     locale->setLcName(built_in_locale, "");
     locale->setEncoding(built_in_encoding);
     QnLocale const* const made = locale.get();
@@ -77,12 +80,14 @@ void QnLocaleCtx::make_classic_slot() {
     system_.store(classic_, std::memory_order_release);
 }
 
+// Its final content comes at the end of start-up, and only then is it handed out.
 void QnLocaleCtx::make_system_locale() {
-    system_locale_ = std::make_unique<QnLocaleImpl>(database_);
-    system_locale_->setLcName(built_in_locale, "");
-    system_locale_->setLcName("en_US", "", QnLocale::messages);
-    system_locale_->setEncoding(built_in_encoding);
-    system_locale_->setTerminalEncoding(built_in_encoding);
+    auto locale = std::make_unique<QnLocaleImpl>(database());
+    locale->setLcName(built_in_locale, "");
+    locale->setLcName("en_US", "", QnLocale::messages);
+    locale->setEncoding(built_in_encoding);
+    locale->setTerminalEncoding(built_in_encoding);
+    system_locales_.push_back(std::move(locale));
 }
 
 void QnLocaleCtx::set_icu_defaults() {
@@ -101,6 +106,10 @@ QnLocale const& QnLocaleCtx::system() const {
     return present(system_.load(std::memory_order_acquire));
 }
 
+QnLocaleImpl& QnLocaleCtx::system_locale() const {
+    return present(system_locales_.empty() ? nullptr : system_locales_.back().get());
+}
+
 global_locale_slot& QnLocaleCtx::current_slot() const {
     return present(current_slot_.load(std::memory_order_acquire));
 }
@@ -116,10 +125,21 @@ void QnLocaleCtx::append_slot(std::unique_ptr<global_locale_slot> slot) {
     current_slot_.store(current, std::memory_order_release);
 }
 
+std::size_t QnLocaleCtx::slot_count() const {
+    std::lock_guard const lock(mutex_);
+    return slots_.size();
+}
+
 std::map<std::string, std::string> QnLocaleCtx::getDataPathNames() const {
+    std::lock_guard const lock(records_mutex_);
     if (database_path_.empty())
         return {};
     return {{"xml_locale_database_path", database_path_}};
+}
+
+void QnLocaleCtx::set_database_path(std::string path) {
+    std::lock_guard const lock(records_mutex_);
+    database_path_ = std::move(path);
 }
 
 } // namespace fl::i18n::lcmgmt

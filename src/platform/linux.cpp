@@ -1,3 +1,4 @@
+#include "platform/environment_preferences.hpp"
 #include "platform/posix.hpp"
 #include "platform/stat_times.hpp"
 
@@ -73,6 +74,16 @@ public:
         std::array<char, PATH_MAX> path;
         return ::realpath(module.dli_fname, path.data()) != nullptr ? path.data() : module.dli_fname;
     }
+
+    std::string user_locale() const override { return locale_of_environment(); }
+    std::string user_language() const override { return language_of_environment(); }
+    std::string application_language() const override { return {}; }
+    void store_application_languages(std::vector<std::string> const&) const override {}
+
+    // glibc has no locale "UTF-8": setting it fails, and a child process that inherits it fails as a whole.
+    char const* utf8_ctype_locale() const noexcept override { return "C.UTF-8"; }
+    // Systems often have "de_DE.UTF-8" alone, neither "de_DE" nor a form in another encoding.
+    char const* extra_locale_suffix() const noexcept override { return ".UTF-8"; }
 };
 
 } // namespace

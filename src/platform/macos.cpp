@@ -1,3 +1,4 @@
+#include "platform/macos_preferences.hpp"
 #include "platform/posix.hpp"
 #include "platform/stat_times.hpp"
 
@@ -53,6 +54,16 @@ public:
             return {};
         return module.dli_fname;
     }
+
+    std::string user_locale() const override { return preferred_locale(); }
+    std::string user_language() const override { return preferred_language(); }
+    std::string application_language() const override { return preferred_application_language(); }
+    void store_application_languages(std::vector<std::string> const& languages) const override {
+        store_preferred_application_languages(languages);
+    }
+
+    char const* utf8_ctype_locale() const noexcept override { return "UTF-8"; }
+    char const* extra_locale_suffix() const noexcept override { return ""; } // bare names exist, as UTF-8
 };
 
 } // namespace

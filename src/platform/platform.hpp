@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <ctime>
 #include <string>
+#include <vector>
 
 namespace fl::platform {
 
@@ -30,6 +31,25 @@ public:
     /// in `tv_nsec` leaves a time as it is. Returns 0 or an `errno` value.
     virtual int set_file_times(std::string const& path, std::timespec const& access,
                                std::timespec const& modification) const = 0;
+
+    /// What the user has told the system about his language; empty where it doesn't know. None of these can
+    /// fail in another way. A system with such preferences keeps one list of languages for all applications
+    /// and, if the user wants it so, another one for this application.
+    /// @{
+    virtual std::string user_locale() const = 0;          ///< name of the locale, canonical for the system
+    virtual std::string user_language() const = 0;        ///< first language of the list for all
+    virtual std::string application_language() const = 0; ///< first language of the application's own list
+    /// @}
+
+    /// Stores the application's own list (ASCII names), whole or not at all; nothing on a system without one.
+    virtual void store_application_languages(std::vector<std::string> const& languages) const = 0;
+
+    /// The name that `setlocale` takes for UTF-8 without a language. It lives as long as the process.
+    virtual char const* utf8_ctype_locale() const noexcept = 0;
+
+    /// What to append to a locale's name where the system knows the locale under neither its XPG name nor its
+    /// bare one; empty if nothing is left to try. It lives as long as the process.
+    virtual char const* extra_locale_suffix() const noexcept = 0;
 };
 
 /// The services in force: this system's own, unless a test has replaced them.

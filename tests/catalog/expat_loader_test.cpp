@@ -82,6 +82,17 @@ TEST_F(ExpatLoaderTest, SizesAroundTheBuffer) {
     }
 }
 
+// An attribute's default would be repeated by each tag; and each tag looks through all that are declared.
+TEST_F(ExpatLoaderTest, DeclaredAttributesAreLimited) {
+    std::string hundred = "<!ENTITY e 'x'>";
+    for (int i = 1; i < 100; ++i)
+        hundred += "<!ATTLIST a a" + std::to_string(i) + " ID #IMPLIED>";
+    for (auto const& [declarations, loads] :
+         {std::pair(hundred, true), std::pair(hundred + "<!ATTLIST b c CDATA #REQUIRED>", false),
+          std::pair("<!ATTLIST a b CDATA 'c'>"s, false), std::pair("<!ATTLIST a b CDATA #FIXED ''>"s, false)})
+        EXPECT_EQ(load("<!DOCTYPE a [" + declarations + "]><a>&e;</a>"), loads) << declarations;
+}
+
 TEST_F(ExpatLoaderTest, UnreadableFiles) {
     for (auto const& unreadable : {at(u"missing.xml"), at(u""), filesystem::upath()})
         EXPECT_FALSE(ExpatLoader(unreadable, handler_).load_file());

@@ -1,7 +1,7 @@
 #include "filesystem/volume.hpp"
 #include "locale_data/rows.hpp"
-#include "platform/platform.hpp"
 #include "support/ascii.hpp"
+#include "support/platform_double.hpp"
 #include "support/temp_tree.hpp"
 #include "support/threads.hpp"
 
@@ -16,22 +16,18 @@
 using namespace fl::filesystem;
 
 /// Stands in for the system's services during a test.
-struct InstallPathTest : testing::Test, fl::platform::services {
+struct InstallPathTest : testing::Test, fl::testing::platform_double {
     int volume_flags(std::string const&, std::uint32_t& result) const override {
         return result = flags, error;
     }
     std::string module_path(void const*) const override {
         return ++calls, path == "throw" ? throw path : path;
     }
-    int set_file_times(std::string const&, std::timespec const&, std::timespec const&) const override {
-        return EIO;
-    }
 
     std::string path;
     std::uint32_t flags = 0;
     int error = 0;
     mutable std::atomic<int> calls = 0;
-    fl::platform::scoped_services const in_force{*this};
 };
 
 TEST_F(InstallPathTest, WalksUpToTheDirectoryPair) {

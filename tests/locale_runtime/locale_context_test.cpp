@@ -44,7 +44,8 @@ TEST(LocaleContext, BeginsWithBuiltInLocalesAndReadsTheEnvironmentOnce) {
     EXPECT_TRUE(get_qnlocale_context()->getDataPathNames().empty());
     setenv("QNLOCALE_L10N_CONTROL", "on", 1);
     setenv("QNLOCALE_TERMINAL_ENCODING", "UTF-8", 1);
-    auto const& snapshot = get_qnlocale_context()->discovery().snapshot;
+    auto const snapshot =
+        get_qnlocale_context()->with_discovery([](locale_context const& found) { return found.snapshot; });
     EXPECT_EQ(snapshot, (std::map<std::string, std::string>{{"QNLOCALE_L10N_CONTROL", "OFF"}}));
 }
 

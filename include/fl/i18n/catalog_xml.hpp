@@ -11,9 +11,10 @@
 ///       </message>
 ///     </rsccat>
 ///
-/// The file is read as UTF-8, whatever its XML declaration says; only UTF-16 is told by its first bytes. "version" and "locale" are not looked at. An
-/// entry needs a non-empty "key" and holds text only; of two entries with one key the first is kept. No other
-/// element is allowed. A file that breaks a rule is refused as a whole.
+/// The file is read as UTF-8, whatever its XML declaration says; only UTF-16 is told by its first bytes.
+/// "version" and "locale" are not looked at. An entry needs a non-empty "key" and holds text only; of two
+/// entries with one key the first is kept. No other element is allowed. A file that breaks a rule, or goes
+/// beyond the limits that <fl/i18n/expat_loader.hpp> names, is refused as a whole.
 ///
 /// Lines of an entry are trimmed and joined by one blank each, so that a message can be laid out freely; see
 /// `MessageCatalogTextProcessor`. After that, backslash escapes are read as ICU's `UnicodeString::unescape`

@@ -8,8 +8,10 @@
 ///     bool const complete = fl::i18n::ExpatLoader(path, handler).load_file();
 ///
 /// All names, values and text that a handler sees are UTF-8, whatever the encoding of the file. The parser's
-/// own limits against exponential entity expansion are in force, and a document may declare 100 entities at the
-/// most: the parser would follow a longer chain of them by recursion. Only regular files are read.
+/// own limits against exponential entity expansion are in force, and a longer chain of entities would be
+/// followed by recursion. So a document type may declare 100 entities and attributes in all, and no attribute
+/// with a default value, which every tag would repeat; `load_file` ends at what goes beyond. Only regular
+/// files are read.
 ///
 /// A loader and its handler serve one file on one thread.
 #pragma once
@@ -20,7 +22,6 @@
 #include <boost/noncopyable.hpp>
 #include <boost/shared_ptr.hpp>
 
-#include <cstddef>
 #include <memory>
 #include <string>
 
@@ -31,8 +32,9 @@ namespace fl::i18n {
 /// Receives the events of one document.
 class FL_I18N_EXPORT ExpatEventHandler : private boost::noncopyable {
 public:
-    /// `encoding` is the name given to the parser; it overrides what the document declares about itself
-    /// (but not a byte order mark of UTF-16). The parser knows "UTF-8", "UTF-16", "ISO-8859-1" and "US-ASCII"; with another name every load fails.
+    /// `encoding` is the name given to the parser; it overrides what the document declares about itself (but
+    /// not a byte order mark of UTF-16). The parser knows "UTF-8", "UTF-16", "ISO-8859-1" and "US-ASCII";
+    /// with another name every load fails.
     explicit ExpatEventHandler(std::string const& encoding);
     virtual ~ExpatEventHandler();
 
@@ -74,18 +76,15 @@ public:
     ExpatLoader(filesystem::upath const& path, boost::shared_ptr<ExpatEventHandler> handler);
     ~ExpatLoader();
 
-    /// Reads the file, in pieces of 1024 bytes, to its end or to the first failure; the pieces grow where a single
-    /// tag or comment is longer, so that the time stays in proportion to the size of the file. True if it is a complete
-    /// and well-formed document and the handler stopped nothing; false otherwise, also for a file that cannot
-    /// be opened or read. The reason is not kept. Exceptions of the handler pass through, as do those of
-    /// `filesystem::detail::make_native_access_form_i18n` for the path. To be called once: a document that
-    /// has ended is not parsed again.
+    /// Reads the file, in pieces of 1024 bytes, to its end or to the first failure; the pieces grow where a
+    /// single tag or comment is longer, so that the time stays in proportion to the size of the file. True if
+    /// it is a complete and well-formed document and the handler stopped nothing; false otherwise, also for a
+    /// file that cannot be opened or read. The reason is not kept. Exceptions of the handler pass through, as
+    /// do those of `filesystem::detail::make_native_access_form_i18n` for the path. To be called once: a
+    /// document that has ended is not parsed again.
     bool load_file();
 
 private:
-    bool parse(char const* data, int length, bool last);
-    std::size_t unfinished_token(std::size_t fed) const;
-
     filesystem::upath path_;
     std::unique_ptr<XML_Parser_Guard> parser_;
     boost::shared_ptr<ExpatEventHandler> handler_;

@@ -5,7 +5,7 @@
 /// global one, and the event log. It comes into being at the first call that needs it, with built-in
 /// knowledge only: "en_US_POSIX", messages "en_US", encoding "UTF-8". Start-up then adds what the
 /// installation and the user's system say. Most callers have no business with it: `QnLocale::global()` is the
-/// way to the current locale.
+/// way to the current locale, and <fl/i18n/startup.hpp> has the functions that start and steer it.
 ///
 ///     auto* const context = fl::i18n::lcmgmt::get_qnlocale_context();
 ///     context->getLcCategory("Messages");                       // QnLocale::messages
@@ -23,6 +23,7 @@
 #include <fl/i18n/locale_database.hpp>
 
 #include <atomic>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -30,6 +31,7 @@
 #include <mutex>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace fl::i18n {
@@ -39,6 +41,7 @@ class QnLocaleImpl;
 namespace lcmgmt {
 
 class global_locale_slot;
+class locale_initialization_context;
 struct locale_context;
 
 /// How far start-up has come: 0 initialised, 1 the locale database could not be loaded, 2 not initialised,
@@ -85,10 +88,19 @@ public:
     QnLocaleCtx();
     static std::unique_ptr<QnLocaleCtx> make();
 
-    locale_database const& database() const noexcept { return database_; }
+    /// The database in force. Start-up replaces the built-in one by one that the XML database has corrected;
+    /// the former one stays as it is, for the locales made on it and for those who are reading it.
+    locale_database const& database() const noexcept { return *database_.load(std::memory_order_acquire); }
     LcStatusCtx const& status() const noexcept { return status_; }
-    /// What is known of the system and its environment.
-    locale_context const& discovery() const noexcept { return *discovery_; }
+
+    /// The result of `action(record)`, called with the context's mutex held, where `record` is the
+    /// `locale_context const&` that says what is known of the system and its environment. While the action
+    /// runs neither start-up nor a change of the global locale does, so it must not ask for either.
+    template <class Action>
+    auto with_discovery(Action&& action) const {
+        std::lock_guard const lock(mutex_);
+        return std::forward<Action>(action)(static_cast<locale_context const&>(*discovery_));
+    }
 
     /// The locales behind `QnLocale::classic()`, `global()` and `system()`. They throw `QnLcDataNotFound` if
     /// setting up the context has failed before they existed.
@@ -98,6 +110,8 @@ public:
 
     /// Makes the slot's locale the global one. Former slots stay as they are, for those who still read them.
     void publish_slot(std::unique_ptr<global_locale_slot> slot);
+    /// How many locales the list holds: the classic one first, the global one last.
+    std::size_t slot_count() const;
 
     /// Adds the entry "title - text" to the event log; an ICU error code follows the text without a gap.
     void log_event(std::string_view title, std::string_view text);
@@ -106,6 +120,18 @@ public:
     void log_entry(std::string entry);
     /// A copy of the log, oldest entry first.
     std::vector<std::string> event_log() const;
+    /// @}
+
+    /// @name Start-up and changes of the global locale
+    /// The functions of <fl/i18n/startup.hpp> call these, and say what they do.
+    /// @{
+    void initLocaleMgmt();
+    void disable_l10n_rsc();
+    bool get_l10n_rsc_status() const;
+    void lock_current_locale();
+    void change_current_locale(QnLocale const& locale);
+    bool set_lc_messages(std::string const& name);
+    bool setLocale(std::string const& name);
     /// @}
 
 private:
@@ -118,20 +144,42 @@ private:
     void set_icu_defaults();
     void initCatNameTbl();
     void initOptDataTypeTbl();
+    QnLocaleImpl& system_locale() const;
+
+    // With the mutex held, each of them.
     void append_slot(std::unique_ptr<global_locale_slot> slot);
+    void retire_last_slot();
+    void load_database(std::string const& path);
+    void put_last_database_in_force() noexcept;
+    void initGlobalLocale();
+    void publish_first_locale();
+    void set_system_defaults(std::string const& encoding, std::string const& locale);
+    void create_new_global_context(bool english_messages);
+    void disable_messages_in_environment();
+    bool has_english_messages() const;
+
+    void set_database_path(std::string path);
 
     LcStatusCtx status_;
-    std::string database_path_;
-    locale_database database_;
+    // What has ever been published is kept: somebody may hold a reference. The last one is in force.
+    std::vector<std::unique_ptr<locale_database>> databases_;   // by mutex_
+    std::vector<std::unique_ptr<QnLocaleImpl>> system_locales_; // by mutex_, as are the following
+    std::vector<std::unique_ptr<global_locale_slot>> slots_;    // the first is the classic locale's
+    std::vector<std::unique_ptr<global_locale_slot>> slot_graveyard_;
     std::unique_ptr<locale_context> discovery_;
-    std::unique_ptr<QnLocaleImpl> system_locale_;            // not published before it has its final content
-    std::vector<std::unique_ptr<global_locale_slot>> slots_; // by mutex_; a slot is never freed
-    QnLocale const* classic_ = nullptr;                      // set before the context is published
+    // Defined where discovery is, above this class's own layer, as is its deleter.
+    std::unique_ptr<locale_initialization_context, void (*)(locale_initialization_context*)> initialization_{
+        nullptr, nullptr};
+    bool locale_locked_ = false;
+    std::atomic<bool> l10n_enabled_{true}; // changed by mutex_
+    QnLocale const* classic_ = nullptr;    // set before the context is published
+    std::atomic<locale_database const*> database_{nullptr};
     std::atomic<global_locale_slot*> current_slot_{nullptr};
     std::atomic<QnLocale const*> system_{nullptr};
-    std::mutex mutex_;                   // orders all changes of the global locale
-    mutable std::mutex event_log_mutex_; // never held while another lock is taken
+    mutable std::mutex mutex_;         // orders start-up and all changes of the global locale
+    mutable std::mutex records_mutex_; // guards the next two, and is never held while another lock is taken
     std::vector<std::string> event_log_;
+    std::string database_path_;
     name_table<QnLocale::LcCategory> category_by_name_;
     std::map<QnLocale::LcCategory, std::string> name_by_category_;
     name_table<QnLcOptDataCtx::LcOptDataType> optional_data_by_name_;

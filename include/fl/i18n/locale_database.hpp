@@ -17,8 +17,12 @@
 /// as they are.
 ///
 /// A question without an answer gives an empty text, a null pointer or an empty record, never an exception.
-/// Each `char const*` is NUL-terminated and stays valid as long as the database. Thread-compatible: reading
-/// from several threads is safe once nothing writes any more.
+/// Each `char const*` is NUL-terminated and stays valid as long as the database, whatever changes in it.
+/// Thread-compatible: reading from several threads is safe once nothing writes any more.
+///
+/// The operations `modify_...` and `remove_...` change a database; its own texts are the only ones that they
+/// keep. The database of the process is changed during start-up alone, from an installation's XML file
+/// (<fl/i18n/lc_data_xml.hpp>).
 #pragma once
 
 #include <fl/i18n/export.hpp>
@@ -62,6 +66,15 @@ struct locale_optional_data {
     std::string value;
     ustring wide_value;
 };
+
+/// What the changing operations of a `locale_database` report.
+namespace change_status {
+inline constexpr int done = 0;           ///< changed, or as it should be already
+inline constexpr int already_there = 1;  ///< the alias leads to that name as it is
+inline constexpr int empty_argument = 2; ///< a required argument is empty; nothing has changed
+inline constexpr int not_found = 3;      ///< there is no such entry to change or to remove
+inline constexpr int refused = 4; ///< a canonical name is not removed, an unknown locale has no options
+} // namespace change_status
 
 /// The key of an option: the locale as it is given, ":", the option's type.
 FL_I18N_EXPORT std::string make_optional_data_key(std::string_view locale, std::string_view type);
@@ -163,9 +176,83 @@ public:
     char const* get_jvm_encoding_name(std::string_view name) const;
 
     /// The option of a locale. The locale counts as given, so ask with its canonical name. An empty record if
-    /// an argument is empty or nothing is stored; the reference lives as long as the database.
+    /// an argument is empty or nothing is stored; the reference lives as long as the database, unless
+    /// `remove_locale_optdata_entry` removes what it refers to.
     locale_optional_data const& get_optional_data_context(std::string_view locale,
                                                           std::string_view type) const;
+
+    /// @name Changes of locales
+    ///
+    /// Each returns a `change_status`: for bad data `empty_argument`, `not_found` or `refused`, never an
+    /// exception. Unless said otherwise every argument is required, an empty one is refused with nothing
+    /// changed, and success is `done`. Only memory that runs out throws; what was changed until then stays.
+    ///
+    /// Where a locale takes a new value, a name that the locale map has as a key counts as it is; another name
+    /// that the language data knows stands for the canonical name found there ("de_AT.UTF-8" for "de_AT"); and
+    /// a name unknown to both becomes a canonical name, so that new locales come into being.
+    ///
+    /// Language, script and region data are never changed, so `get_language_context` isn't either.
+    /// @{
+
+    /// Sets the default encoding and the XPG name of a locale. An empty `encoding` or `xpg_name` removes the
+    /// present one. An unknown encoding is created, with the text as given as its standard name.
+    int modify_locale_data_entry(std::string_view locale, std::string_view encoding,
+                                 std::string_view xpg_name);
+    int modify_default_encoding(std::string_view locale, std::string_view encoding);
+    int modify_xpg_name(std::string_view locale, std::string_view xpg_name);
+
+    /// Lets `alias` lead to `locale`, which becomes a canonical name where it wasn't. `already_there` if that
+    /// is what `get_locale_name(alias)` says. Aliases don't chain: the alias keeps this target, whatever
+    /// becomes of the target's own entry.
+    int modify_locale_alias(std::string_view locale, std::string_view alias);
+    /// The same for the names of regions, which `get_region_locale_name` answers.
+    int modify_region_locale_alias(std::string_view locale, std::string_view alias);
+
+    /// Removes a key of the locale map: `not_found` if there is none, `refused` if the name leads to itself,
+    /// byte for byte.
+    int remove_locale_alias(std::string_view alias);
+    int remove_region_locale_alias(std::string_view alias);
+
+    /// Remove the value of just this key; `done` also if there is none.
+    int remove_default_encoding(std::string_view locale);
+    int remove_xpg_name(std::string_view locale);
+
+    /// Stores an option under the canonical name of the locale, in the place of an earlier value. One of the
+    /// two values may be empty. `refused` if `get_locale_name` doesn't know the locale.
+    int modify_locale_optdata_entry(std::string_view locale, std::string_view type, std::string_view value,
+                                    std::u16string_view wide_value);
+    /// Removes it: `refused` as above, `not_found` if nothing is stored.
+    int remove_locale_optdata_entry(std::string_view locale, std::string_view type);
+    /// @}
+
+    /// @name Changes of encodings
+    ///
+    /// They report as the changes of locales do. An encoding that no key leads to is created under the
+    /// encoding key of its name, which as given is its standard name. An entry is changed in place, for all keys
+    /// that lead to it and for everybody who holds it.
+    /// @{
+
+    /// Sets the Java name and the compatible encoding; an empty `jvm_name` or `compatible` removes the present
+    /// one. The Java name becomes a further key of the encoding, unless the key is taken.
+    ///
+    /// `compatible` counts by its standard name, byte for byte: an alias is made an encoding in its own right,
+    /// and leads to its former target no more.
+    int modify_encoding_data_entry(std::string_view encoding, std::string_view jvm_name,
+                                   std::string_view compatible);
+    int modify_jvm_encoding(std::string_view encoding, std::string_view jvm_name);
+    int modify_compat_encoding(std::string_view encoding, std::string_view compatible);
+
+    /// Lets `alias` lead to the entry of `encoding`, by whatever name that one is given; `already_there` if it
+    /// leads to an entry with the standard name `encoding`, byte for byte.
+    int modify_encoding_alias(std::string_view encoding, std::string_view alias);
+
+    /// Removes one key of the encodings, be it an alias or the standard name itself; `not_found` without one.
+    int remove_encoding_alias(std::string_view alias);
+    /// The Java VM then uses the standard name; `not_found` for an unknown encoding.
+    int remove_jvm_encoding(std::string_view encoding);
+    /// Removes the compatible encoding; `done` also if there is none.
+    int remove_compat_encoding(std::string_view encoding);
+    /// @}
 
 private:
     locale_database_context context_;

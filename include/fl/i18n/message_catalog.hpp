@@ -61,7 +61,8 @@ public:
     /// A catalog has no message of that key.
     class FL_I18N_EXPORT MessageNotFound;
     /// A message is no pattern that ICU accepts, has more than 50 holes with patterns of their own (select,
-    /// plural, choice: ICU would follow them by recursion), mixes words and numbers as names, or a value does not suit its hole.
+    /// plural, choice: ICU would follow them by recursion), mixes words and numbers as names, or a value does
+    /// not suit its hole.
     class FL_I18N_EXPORT MessageFormatIncorrect;
     /// The number of values differs from the number of holes.
     class FL_I18N_EXPORT IncorrectHoleCount;
@@ -113,8 +114,9 @@ public:
 
     /// The catalog for `locale`, from the cache or else from the first file found for the locale, its parent,
     /// and English. If no location was set yet, sets that of the installation, or of the current directory
-    /// where the library lies in no install tree; `MessageCatalogIncorrectRoot` if there is none. Throws `MessageCatalogLoadFailed` if there is no
-    /// file, or the one found does not load; a failure is not remembered.
+    /// where the library lies in no install tree; `MessageCatalogIncorrectRoot` if there is none. Throws
+    /// `MessageCatalogLoadFailed` if there is no file, or the one found does not load; a failure is not
+    /// remembered.
     static std::shared_ptr<MessageCatalog> GetMessageCatalog(CatalogID const& id, QnLocale const& locale);
     /// The same for the global locale.
     static std::shared_ptr<MessageCatalog> GetMessageCatalog(CatalogID const& id);
@@ -147,8 +149,8 @@ public:
     ///
     /// With numbered holes ("{0}", "{1_date}") the values go to the holes in the order of their numbers,
     /// those of one number in the order of the pattern; equal names next to each other in that order count
-    /// once. So for "{2} {0} {0}" the first value fills "{0}", the second "{2}". With named holes ("{name}") they go in
-    /// the order of the pattern, repeats included. A lone apostrophe stands for itself.
+    /// once. So for "{2} {0} {0}" the first value fills "{0}", the second "{2}". With named holes ("{name}")
+    /// they go in the order of the pattern, repeats included. A lone apostrophe stands for itself.
     ///
     /// Throws `IncorrectHoleCount` when the numbers of values and of holes differ, and
     /// `MessageFormatIncorrect` when the pattern or a value is refused. A hole whose name begins with neither
@@ -165,8 +167,8 @@ public:
                                        hole_fill_function const& fill);
 
     /// The custom type of hole `number`, as "date" for number 1 of "{1_date}"; empty if no hole of that
-    /// number has one. Throws `IncorrectHoleCount` (with `number` as the expected count) if `number` exceeds the
-    /// count of holes, and what `GetFormattedMessage` throws for a pattern or a name that it refuses.
+    /// number has one. Throws `IncorrectHoleCount` (with `number` as the expected count) if `number` exceeds
+    /// the count of holes, and what `GetFormattedMessage` throws for a pattern or a name that it refuses.
     static ustring GetCustomHoleType(ustring const& message, unsigned long number);
 };
 
@@ -225,8 +227,8 @@ public:
 
 class MessageCatalog::IncorrectHoleCount : public std::exception {
 public:
-    /// `expected` is the number of holes and `found` the number of values; from `GetCustomHoleType`, the number
-    /// asked for and the number of holes.
+    /// `expected` is the number of holes and `found` the number of values; from `GetCustomHoleType`, the
+    /// number asked for and the number of holes.
     IncorrectHoleCount(unsigned long expected, unsigned long found);
     IncorrectHoleCount(IncorrectHoleCount const&) = default;
     IncorrectHoleCount& operator=(IncorrectHoleCount const&) = default;

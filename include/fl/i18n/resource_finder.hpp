@@ -8,7 +8,7 @@
 /// @code
 ///     auto const locale = fl::i18n::QnLocale::createLocale("de_AT");
 ///     fl::i18n::resource_finder finder({fl::filesystem::upath(u"/opt/app/help")}, *locale, true, u"");
-///     fl::filesystem::upath const page = finder.find(u"%S/start.html"); // .../de/start.html, if de_AT has none
+///     fl::filesystem::upath const page = finder.find(u"%S/start.html"); // de/start.html if de_AT has none
 ///     std::string const language = finder.get_locale();                 // "de"
 ///
 /// The locale is the outer loop: a `de` file in the last directory wins over an `en` file in the first. Only
@@ -30,8 +30,8 @@ namespace fl::i18n {
 
 /// Searches one list of directories for one locale, both given at construction.
 ///
-/// One thread at a time: the operations are `const`, yet `find` records its match and the list may change. The locale list is made at
-/// construction; a later change of the global locale is not seen.
+/// One thread at a time: the operations are `const`, yet `find` records its match and the list may change.
+/// The locale list is made at construction; a later change of the global locale is not seen.
 class FL_I18N_EXPORT resource_finder {
 public:
     /// The marker in force where an empty one is given: "%S", zero-terminated.

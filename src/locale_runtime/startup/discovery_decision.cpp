@@ -1,0 +1,117 @@
+#include "locale_runtime/startup/discovery_decision.hpp"
+
+#include "locale_runtime/startup/discovery_fields.hpp"
+#include "locale_runtime/startup/discovery_xpg_name.hpp"
+#include "locale_runtime/startup/l10n_control.hpp"
+#include "platform/platform.hpp"
+
+#include <fl/i18n/locale_database.hpp>
+
+#include <utility>
+
+namespace fl::i18n::lcmgmt {
+
+namespace {
+
+constexpr char const* utf8 = "UTF-8";
+
+/// Moved into place: g++ 12 warns falsely where such a literal is assigned.
+std::string c_locale() {
+    return "C";
+}
+
+struct named_locale {
+    std::string name; // empty: unusable
+    std::string modifier;
+};
+
+/// What the preference means as a whole, or else without its encoding and modifiers. A modifier is not part
+/// of any name in the database, so with one only the second way is open.
+named_locale resolve_preference(locale_database const& database, std::string const& preference) {
+    if (preference.find('@') == std::string::npos) {
+        std::string name = database.get_region_locale_name(preference);
+        if (name.empty())
+            name = database.get_locale_name(preference);
+        if (!name.empty())
+            return {std::move(name), ""};
+    }
+    locale_name_element const element = decompose_locale_name(preference);
+    std::string name = database.get_locale_name(element.short_locale_name());
+    return name.empty() ? named_locale() : named_locale{std::move(name), element.modifiers()};
+}
+
+/// Empty for an unknown language.
+std::string resolve_language(locale_database const& database, std::string const& language) {
+    locale_name_element const element = decompose_locale_name(language);
+    std::string name = database.get_locale_name(element.language_tag());
+    return name.empty() ? database.get_locale_name(element.language_name_with_script()) : name;
+}
+
+void decide_categories(locale_context& found, named_locale const& base, std::string const& messages) {
+    found.category_decisions.fill({base.name, base.modifier});
+    found.category_decisions[place_messages] = {messages.empty() ? "en_US" : messages, ""};
+}
+
+/// The C library in "C", with characters in UTF-8 and perhaps messages in the user's language.
+void decide_c_setting(locale_context& found, std::string const& messages) {
+    char const* const ctype = platform::current().utf8_ctype_locale();
+    found.single_name = false;
+    found.xpg_all = c_locale();
+    found.xpg_category.fill("");
+    found.env_target.fill("");
+    found.xpg_category[place_ctype] = found.env_target[place_ctype] = ctype;
+    found.env_target[place_lang] = c_locale();
+    if (messages != c_locale())
+        found.xpg_category[place_messages] = found.env_target[place_messages] = messages;
+}
+
+/// The categories' names, as far as they differ from `xpg_all`, and the variables for them. LC_ALL is never
+/// among these: it would override all others.
+void distribute(locale_context& found) {
+    found.env_target.fill("");
+    found.env_target[place_lang] = found.xpg_all;
+    found.xpg_category[place_numeric] = c_locale();
+    for (std::size_t place = 0; place < found.xpg_category.size(); ++place) {
+        std::string& name = found.xpg_category[place];
+        if (name == found.xpg_all)
+            name.clear();
+        if (name.empty())
+            continue;
+        found.single_name = false;
+        found.env_target[place] = name;
+    }
+    if (found.l10n_control == l10n_off && found.xpg_all != c_locale())
+        found.env_target[place_messages] = c_locale();
+}
+
+void decide_xpg_names(locale_context& found, std::string const& all, std::string const& messages) {
+    if (all.empty())
+        return decide_c_setting(found, messages);
+    found.xpg_all = all;
+    if (messages != all)
+        found.xpg_category[place_messages] = messages;
+    if (all.find(utf8) == std::string::npos)
+        found.xpg_category[place_ctype] = platform::current().utf8_ctype_locale();
+    distribute(found);
+}
+
+} // namespace
+
+bool decide_locale(locale_context& found, locale_database const& database) {
+    named_locale const base = resolve_preference(database, found.NativeLocaleUser);
+    std::string const messages = resolve_language(database, found.NativeLanguageUser);
+    found.user_locale_valid = base.name.empty() ? 0 : 1;
+    found.Encoding = utf8;
+    if (base.name.empty()) {
+        decide_categories(found, {"en_US_POSIX", ""}, messages);
+        decide_c_setting(found, tested_xpg_name(database, messages));
+        return false;
+    }
+    decide_categories(found, base, messages);
+    std::string const all = tested_xpg_name(database, base.name, found.Encoding);
+    // With one locale for all, messages follow it and have no name of their own.
+    decide_xpg_names(found, all, messages == base.name ? std::string() : tested_xpg_name(database, messages));
+    return true;
+}
+
+} // namespace fl::i18n::lcmgmt

@@ -1,0 +1,223 @@
+#include "../changes.hpp"
+#include "support/failure.hpp"
+#include "support/raise.hpp"
+#include "support/temp_tree.hpp"
+
+#include <fl/i18n/lc_data_xml.hpp>
+#include <fl/i18n/locale_context.hpp>
+
+#include <expat.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+
+static bool no_parser = false;
+
+// Takes the place of expat's own, for want of another way to make it fail.
+XML_Parser XML_ParserCreate(XML_Char const* encoding) {
+    return no_parser ? nullptr : XML_ParserCreate_MM(encoding, nullptr, nullptr);
+}
+
+namespace fl::i18n::lcmgmt {
+namespace {
+
+using namespace std::string_literals;
+
+struct throwing_handler : LcdbEventHandler {
+    using LcdbEventHandler::LcdbEventHandler;
+    int startEntry(char const*, char const**) override { support::raise(std::range_error("mine")); }
+};
+
+struct LcDataXmlTest : ::testing::Test, testing::temp_tree {
+    filesystem::native_path write(std::string const& document) const {
+        return filesystem::native_path(file("x.xml", document).string());
+    }
+
+    /// The expat error of the failure, 0 for success.
+    int load(std::string const& document, locale_database& database) {
+        try {
+            parseLcData(database, write(document));
+            return 0;
+        } catch (LcRscInvalidXmlDoc const& e) {
+            message_ = e.message();
+            return std::stoi(message_.substr(message_.find("with ") + 5));
+        }
+    }
+    int load(std::string const& document) { return load(document, database_); }
+
+    /// What went to the event log since the last call, an entry each line.
+    std::string log() {
+        std::string lines;
+        auto const all = get_qnlocale_context()->event_log();
+        for (; logged_ < all.size(); ++logged_)
+            lines += all[logged_] + "\n";
+        return lines;
+    }
+
+    locale_database database_;
+    std::string message_;
+    std::size_t logged_ = get_qnlocale_context()->event_log().size();
+};
+
+TEST_F(LcDataXmlTest, AppliesEachElement) {
+    EXPECT_EQ(load(R"(<?xml version="1.0" encoding="utf-8"?><lcdata a="b">ignored
+        <locale name="xx" encoding="" xpg_name="X"> text <alias name="x1"/>&amp;<alias name="x2"/></locale>
+        <locale name="he_IL" encoding="windows-1255" disable_user_locale="1"/>
+        <locale name="he_IL"><region_alias name="IL"/><l10n disable="yes"/></locale>
+        <locale name="qq"/><locale name="de_DE" encoding="ISO-8859-15"/>
+        <codeset><encoding name="UTF8" jvm_encoding="UTF8"/><encoding name="never"/>
+            <encoding name="Sjis" jvm_encoding="X" compat="Y"><encoding_alias name="ja"/></encoding></codeset>
+        <codeset><encoding name="Big5" compat="Y"/></codeset></lcdata>)"),
+              0);
+    for (auto const& [name, answer] :
+         {std::pair("x1", "xx UTF-8 X"), std::pair("x2", "xx UTF-8 X"), std::pair("qq", " UTF-8 (null)"),
+          std::pair("iw", "he_IL windows-1255 he_IL.UTF-8"),
+          std::pair("de", "de_DE ISO-8859-1 de_DE.ISO8859-1")}) // the language data has the other encoding
+        EXPECT_EQ(ask_locale(database_, name), answer);
+    EXPECT_EQ(database_.get_region_locale_name("il"), "he_IL");
+    EXPECT_EQ(database_.get_optional_data_context("he_IL", "disable_l10n").value, "yes");
+    EXPECT_EQ(database_.get_optional_data_context("he_IL", "disable_user_locale").value, "");
+    for (auto const& [name, answer] :
+         {std::pair("UTF-8", "UTF-8 UTF8 (null)"), std::pair("sjis", "Shift_JIS X Y"),
+          std::pair("ja", "Shift_JIS X (null)"), std::pair("big5", "Big5 MS950 Y"),
+          std::pair("never", "(null) (null) (null)")})
+        EXPECT_EQ(ask_encoding(database_, name), answer);
+    EXPECT_EQ(log(), "");
+}
+
+TEST_F(LcDataXmlTest, FailedStepsGoToTheLog) {
+    EXPECT_EQ(load(R"(<lcdata><locale name="he_IL"><alias name="he_IL"/></locale>
+        <locale name="xx_YY"><l10n disable="1"/><alias name="after"/></locale></lcdata>)"),
+              0);
+    EXPECT_EQ(database_.get_locale_name("after"), "xx_YY");
+    LcData data(database_);
+    data.addLcName("", "a", "b");
+    data.addRegionAliasLcName("a", "");
+    data.addEncodingName("", "a", "b");
+    data.addEncodingName("", "", "b");
+    data.addEncodingAlias("a", "");
+    EXPECT_EQ(log(), "LcData::addAliasLcName::modifyLcAliasName - he_IL:he_IL1\n"
+                     "LcData::addL10nFlag::modifyLcOptData - xx_YY:disable_l10n:14\n"
+                     "LcData::addLcName::modifyLcEntry - :a:b2\n"
+                     "LcData::addRegionAliasLcName::modifyLcAliasName - a:2\n"
+                     "LcData::addEncodingName::modifyEncodingDataEntry - :a:b2\n"
+                     "LcData::addEncodingName::modifyCompatEncoding - :b2\n"
+                     "LcData::addEncodingAlias::modifyEncodingAlias - a:2\n");
+}
+
+TEST_F(LcDataXmlTest, StructureOfDocuments) {
+    auto const before = dump(database_);
+    for (char const* accepted :
+         {"<codeset><encoding name='a'/></codeset>", "\xEF\xBB\xBF<lcdata/>",
+          "<?xml version='1.0' encoding='Utf-8'?><lcdata x='1'><!-- <x/> --><?x y?><![CDATA[<x/>]]></lcdata>",
+          "<lcdata><locale name='ja_JP' encoding='Shift_JIS'/><locale name='xx_YY'/></lcdata>"})
+        EXPECT_EQ(load(accepted), 0) << accepted;
+    for (char const* refused :
+         {"", "<LCDATA/>", "<x:lcdata xmlns:x='y'/>", "<lcdata>\xE4</lcdata>", "<lcdata><x/></lcdata>",
+          "<?xml version='1.0'?><lcdata/>", "<?xml version='1.0' encoding='ISO-8859-1'?><lcdata/>",
+          "<lcdata><locale name=''/></lcdata>", "<locale name='a'><l10n name='b'/></locale>",
+          "<locale name='a'><locale name='b'/></locale>", // the inner end tag has closed the outer element
+          "<locale name='a'><encoding_alias name='b'/></locale>",
+          "<codeset><encoding compat='a'/></codeset>"})
+        EXPECT_NE(load(refused), 0) << refused;
+    EXPECT_EQ(dump(database_), before);
+    EXPECT_EQ(load("<lcdata>\n <alias name='a'></alias></lcdata>"), XML_ERROR_ABORTED);
+    EXPECT_EQ(message_, "XML Parse error detected with 35 at column, 17, on line, 2 in resource file.");
+}
+
+// The file that is installed changes nothing; the example in its comment is one that works.
+TEST_F(LcDataXmlTest, TheInstalledFile) {
+    auto const before = dump(database_);
+    parseLcData(database_, filesystem::native_path(FL_I18N_LCDATA_FILE));
+    EXPECT_EQ(dump(database_), before);
+    std::ostringstream installed;
+    installed << std::ifstream(FL_I18N_LCDATA_FILE).rdbuf();
+    std::string const example = installed.str().substr(installed.str().find("<locale "));
+    EXPECT_EQ(load("<lcdata>" + example.substr(0, example.find("</codeset>")) + "</codeset></lcdata>"), 0);
+    EXPECT_EQ(ask_locale(database_, "german") + log(), "de_DE UTF-8 de_DE.UTF-8");
+    EXPECT_EQ(ask_encoding(database_, "japanese"), "Shift_JIS Windows-31J (null)");
+}
+
+TEST_F(LcDataXmlTest, FilesThatCannotBeReadAndHandlersThatThrow) {
+    auto const parse = [&](std::string const& name) {
+        parseLcData(database_, filesystem::native_path(name));
+    };
+    std::string const here = root().string();
+    for (std::string const& name : {here + "/missing", ""s, here + "\0"s})
+        EXPECT_EQ(testing::failure<LcRscOpenFileFailure>(parse, name), "fl:i18n:LcRscOpenFileFailure");
+    EXPECT_EQ(LcRscOpenFileFailure("/\xC3\xA4 ~\t").message(), "Failed to open file /C3A4 ~9.");
+    EXPECT_EQ(testing::failure<LcRscFileReadFailure>(parse, here), "fl:i18n:LcRscFileReadFailure");
+    auto const path = write("<lcdata/>");
+    no_parser = true;
+    EXPECT_EQ(testing::failure<LcRscParserCreationFailure>(parse, path.string()),
+              "fl:i18n:LcRscParserCreationFailure");
+    no_parser = false;
+    throwing_handler handler(database_);
+    EXPECT_EQ(testing::failure<std::range_error>([&] { parseXmlDocument(handler, path); }), "mine");
+}
+
+// No element undoes another one here, so what a part of the document does is part of what all of it does.
+TEST_F(LcDataXmlTest, DamagedDocumentsApplyWhatStandsBeforeTheDamage) {
+    std::string const document = R"(<?xml version="1.0" encoding="UTF-8"?>
+<lcdata><locale name="aa_BB" encoding="UTF-8" xpg_name="x.U"><alias name="cc"/></locale>
+<locale name="dd_EE" xpg_name="y"><region_alias name="FF"/><l10n disable="1"/></locale>
+<codeset><encoding name="g" jvm_encoding="h" compat="i"><encoding_alias name="j"/></encoding></codeset>
+</lcdata>)";
+    EXPECT_EQ(load(document), 0);
+    auto all = dump(database_);
+    std::size_t applied = 0;
+    for (std::size_t size = 0; size < document.size(); size += 2) {
+        locale_database truncated;
+        EXPECT_NE(load(document.substr(0, size), truncated), 0) << size;
+        auto some = dump(truncated);
+        all["pool"] = some["pool"];
+        EXPECT_TRUE(std::includes(all.begin(), all.end(), some.begin(), some.end())) << size;
+        applied = some.size();
+    }
+    EXPECT_EQ(applied, all.size());
+}
+
+/// `count` copies; each "@" in them is the number of the copy, and each "&" a reference to the entity before.
+std::string repeated(std::string const& text, int count) {
+    std::string result;
+    for (int i = 0; i < count; ++i)
+        for (char const c : text)
+            result += c == '@' ? std::to_string(i) : c == '&' ? "&e" + std::to_string(i - 1) + ";" : ""s + c;
+    return result;
+}
+
+// Each of these ends at once; what isn't bounded takes minutes, or the stack, or all memory.
+TEST_F(LcDataXmlTest, HostileAndLargeDocuments) {
+    std::string const megabyte(1 << 20, 'x'), open = "<lcdata><locale name='", close = "</locale></lcdata>";
+    std::string const long_name(8 << 20, 'x'), type = "<!DOCTYPE lcdata [<!ENTITY e-1 'xxxxxxxxxx'>";
+    std::string const bomb = type + repeated("<!ENTITY e@ '&&&&&&&&&&&&&&&&&&&&'>", 20) + "]>";
+    using row = std::pair<std::string, int>;
+    std::vector<row> rows{
+        {type + repeated("<!ENTITY e@ '&'>", 99) + "]>" + open + "&e98;'/></lcdata>", 0},
+        {type + repeated("<!ENTITY e@ '&'>", 100'000) + "]>" + open + "&e99999;'/></lcdata>",
+         XML_ERROR_ABORTED},
+        {bomb + "<lcdata>&e19;</lcdata>", XML_ERROR_AMPLIFICATION_LIMIT_BREACH},
+        {bomb + open + "&e19;'/>" + close, XML_ERROR_AMPLIFICATION_LIMIT_BREACH},
+        {"<!DOCTYPE a [<!ENTITY e SYSTEM 'x.xml'>]><lcdata>&e;</lcdata>", 0},
+        {type + "<!ATTLIST a" + repeated(" a@ ID #IMPLIED", 99) + ">]><lcdata/>", 0},
+        {type + "<!ATTLIST a" + repeated(" a@ ID #IMPLIED", 100'000) + ">]><lcdata/>", XML_ERROR_ABORTED},
+        {type + "<!ATTLIST alias name CDATA '" + megabyte + "'>]>" + open + "a'>" +
+             repeated("<alias/>", 100'000) + close,
+         XML_ERROR_ABORTED},
+        {repeated("<locale name='a'>", 100'000), XML_ERROR_NO_ELEMENTS},
+        {open + long_name + "' encoding='UTF-8'/></lcdata>", 0},
+        {open + long_name, XML_ERROR_UNCLOSED_TOKEN},
+        {open + megabyte + "'>" + repeated("<l10n disable='1'/>", 50'000) + close, XML_ERROR_ABORTED},
+        {open + "a'>" + repeated("<alias name='b'/>", 100'000) + close, 0},
+        {open + "a\0"s + "'/></lcdata>", XML_ERROR_INVALID_TOKEN}};
+    for (std::size_t const size : {1023U, 1024U, 1025U, 2048U}) // around the size of the buffer
+        rows.push_back({"<lcdata>" + std::string(size - 17, ' ') + "</lcdata>", 0});
+    for (auto const& [text, error] : rows)
+        EXPECT_EQ(load(text), error) << text.substr(0, 200);
+}
+
+} // namespace
+} // namespace fl::i18n::lcmgmt

@@ -1,0 +1,148 @@
+// Each test runs in a process of its own. Their worth is doubled under ThreadSanitizer and AddressSanitizer.
+#include "support/platform_double.hpp"
+#include "support/temp_tree.hpp"
+#include "support/threads.hpp"
+
+#include <fl/i18n/locale_context.hpp>
+#include <fl/i18n/locale_status.hpp>
+#include <fl/i18n/message_catalog.hpp>
+#include <fl/i18n/startup.hpp>
+#include <fl/i18n/string_conversion.hpp>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+
+using namespace fl::i18n;
+using fl::ustring;
+using fl::testing::run_in_threads;
+
+namespace {
+
+/// A user who speaks German, on every system.
+struct german_user final : fl::testing::platform_double {
+    std::string user_locale() const override { return "de_DE"; }
+    std::string user_language() const override { return "de_DE"; }
+    void store_application_languages(std::vector<std::string> const&) const override {}
+};
+
+/// Everything in a program that asks for the current locale. Keeps each locale that it has seen.
+class reader {
+public:
+    void read() {
+        for (QnLocale const* const locale : {&QnLocale::global(), &QnLocale::system(), &QnLocale::classic()})
+            seen_.emplace_back(locale, locale->shortName(QnLocale::messages));
+        EXPECT_EQ(to_ustring("Gr\xc3\xbc\xc3\x9f"), u"Gr\u00fc\u00df") << "always UTF-8 here";
+        EXPECT_EQ(to_string(u"Gr\u00fc\u00df"), "Gr\xc3\xbc\xc3\x9f");
+        EXPECT_EQ(lcmgmt::get_encoding_name_from_alias("utf8"), "UTF-8");
+        EXPECT_EQ(QnLocale::createLocale("fr_FR")->territory(QnLocale::time), "FR");
+        ustring const text = MessageCatalog::get_message(MessageID("pier:signs:gate"));
+        EXPECT_TRUE(text == u"Gate" || text == u"Tor" || text == u"Porte");
+        QnLcUtil::getDataPathNames();
+        QnLcUtil::getLocaleInformation();
+    }
+
+    /// All of them are alive, and as they were.
+    ~reader() {
+        for (auto const& [locale, name] : seen_)
+            EXPECT_EQ(locale->shortName(QnLocale::messages), name);
+    }
+
+private:
+    std::vector<std::pair<QnLocale const*, std::string>> seen_;
+};
+
+/// A sign in three languages, found by every look-up of this process.
+struct signs : fl::testing::temp_tree {
+    signs() {
+        for (auto const& [language, text] : {std::pair("en", "Gate"), {"de", "Tor"}, {"fr", "Porte"}})
+            file(std::string("resources/pier/") + language + "/signs.xml",
+                 std::string("<rsccat><message><entry key='gate'>") + text + "</entry></message></rsccat>");
+        MessageCatalog::MessageCatalogInit(std::vector<ustring>{fl::testing::temp_tree::text()});
+    }
+};
+
+long entries(std::string const& text) {
+    auto const log = QnLcUtil::getEventLog();
+    return std::count_if(log.begin(), log.end(), [&](auto const& entry) { return entry.ends_with(text); });
+}
+
+} // namespace
+
+TEST(StartupThreads, AllOfThemWaitForOneStartup) {
+    german_user const preferences;
+    run_in_threads(16, [](int number) {
+        number % 2 ? initialize() : initLcMgmtSystem();
+        EXPECT_EQ(QnLocale::global().shortName(QnLocale::messages), "de_DE");
+        EXPECT_EQ(QnLocale::system().shortName(QnLocale::numeric), "de_DE");
+        EXPECT_EQ(QnLcUtil::getLcStatus(), 0);
+    });
+    EXPECT_EQ(entries("has started."), 1);
+    EXPECT_EQ(lcmgmt::get_qnlocale_context()->slot_count(), 2u);
+}
+
+TEST(StartupThreads, ReadersGoOnDuringStartupAndChanges) {
+    german_user const preferences;
+    signs const catalogs;
+    run_in_threads(8, [&](int number) {
+        reader eyes;
+        for (int round = 0; round < 60; ++round) {
+            if (number == 0)
+                initialize();
+            else if (number == 1)
+                experimental::set_global_locale(round % 2 ? "fr_FR" : "de_AT");
+            else if (number <= 3 && round >= 30)
+                set_lc_messages(round % 2 ? "fr_FR" : "de_DE");
+            else if (number == 4 && round == 20)
+                change_global_locale(*QnLocale::createLocale("fr_FR"));
+            else
+                get_l10n_resource_status();
+            eyes.read();
+        }
+    });
+    EXPECT_FALSE(get_l10n_resource_status());
+    EXPECT_EQ(entries("has started."), 1);
+    EXPECT_EQ(entries("Global Locale setting was changed."), 60);
+}
+
+TEST(StartupThreads, OneOfSeveralSetsTheMessages) {
+    german_user const preferences;
+    initialize();
+    char const* const names[] = {"", "fr_FR", "ja_JP", "it_IT", "es_ES"}; // by the numbers of the threads
+    std::latch held(1);
+    std::atomic<int> successes = 0;
+    run_in_threads(5, [&](int number) {
+        if (number == 0) { // holds the others up until all of them have seen that messages may be set
+            lcmgmt::get_qnlocale_context()->with_discovery([&](auto const&) {
+                held.count_down();
+                std::this_thread::sleep_for(std::chrono::milliseconds(100));
+            });
+            return;
+        }
+        held.wait();
+        successes += set_lc_messages(names[number]) ? 1 : 0;
+    });
+    EXPECT_EQ(successes, 1);
+    EXPECT_EQ(entries("set_lc_messages - No operation was performed."), 3);
+}
+
+TEST(StartupThreads, DisablingHappensOnce) {
+    german_user const preferences;
+    initialize();
+    signs const catalogs;
+    QnLocale const& german = QnLocale::global();
+    run_in_threads(8, [&](int number) {
+        reader eyes;
+        for (int round = 0; round < 20; ++round) {
+            if (number < 4)
+                disable_l10n_resource();
+            eyes.read();
+        }
+    });
+    EXPECT_EQ(entries("L10n was disabled."), 1);
+    EXPECT_EQ(entries("No operation was performed."), 79);
+    EXPECT_EQ(QnLocale::global().shortName(QnLocale::messages), "en_US");
+    EXPECT_EQ(german.shortName(QnLocale::messages), "de_DE");
+}

@@ -1,0 +1,108 @@
+// The services of macOS on doubles of its calls, so that they are compiled and seen on any system.
+#include "platform/platform.hpp"
+
+#include <gtest/gtest.h>
+
+#include <CoreFoundation/CoreFoundation.h>
+#include <dlfcn.h>
+#include <sys/attr.h>
+#include <sys/mount.h>
+
+namespace {
+
+fl::platform::services const& macos = fl::platform::native();
+
+constexpr char const* locale_key = "AppleLocale, current application";
+constexpr char const* user_key = "AppleLanguages, any application, current user, any host";
+constexpr char const* application_key = "AppleLanguages, current application";
+
+/// Every object has lost its last owner at the end.
+struct MacosPreferences : testing::Test {
+    MacosPreferences() { fake_cf = {}; }
+    ~MacosPreferences() override {
+        for (fake_object const& object : fake_cf.objects)
+            EXPECT_EQ(object.owners, 0);
+    }
+};
+
+std::string ask(std::string const& key) {
+    return key == locale_key ? macos.user_locale()
+           : key == user_key ? macos.user_language()
+                             : macos.application_language();
+}
+
+} // namespace
+
+TEST(Macos, AVolumeTellsItsFlags) {
+    constexpr std::int32_t no_answer = -1, sensitive = 0x100, insensitive = 0x80;
+    struct {
+        char const* file_system;
+        std::int32_t format;
+        std::uint32_t flags;
+        int error = 0;
+    } const rows[] = {
+        {"apfs", sensitive, 16}, {"apfs", insensitive, 17}, {"apfs", no_answer, 16}, {"hfs", sensitive, 2},
+        {"hfs", insensitive, 3}, {"msdos", insensitive, 1}, {"nfs", no_answer, 0},   {nullptr, 0, 99, ENOENT},
+    };
+    for (auto const& row : rows) {
+        std::uint32_t flags = 99;
+        fake_file_system = row.file_system;
+        fake_volume_format = row.format;
+        EXPECT_EQ(macos.volume_flags("/x", flags), row.error);
+        EXPECT_EQ(flags, row.flags) << "row " << &row - rows;
+    }
+}
+
+TEST(Macos, AModuleIsKnownByTheLoadersName) {
+    int const here = 0;
+    EXPECT_EQ((fake_module = "/x/lib.dylib", macos.module_path(&here)), "/x/lib.dylib");
+    EXPECT_EQ(macos.module_path(nullptr), "");
+    EXPECT_EQ((fake_module = nullptr, macos.module_path(&here)), "");
+}
+
+TEST_F(MacosPreferences, TheLocaleIsCanonicalLatin1OfAnyLength) {
+    for (std::u16string const& name : {std::u16string(u"d\u00E9"), std::u16string(127, u'x'),
+                                       std::u16string(128, u'x'), std::u16string(1000, u'x')}) {
+        fake_cf.preferences = {{locale_key, fake_cf.string(name + u"-AT@currency=EUR")}};
+        EXPECT_EQ(macos.user_locale(), std::string(name.begin(), name.end()) + "_AT@currency=EUR");
+    }
+}
+
+TEST_F(MacosPreferences, WhatCannotBeReadIsEmpty) {
+    auto* const text = fake_cf.string(u"de");
+    auto* const list = fake_cf.array({text, fake_cf.string(u"fr")});
+    auto* const no_locale = fake_cf.string(u"\u65E5");
+    auto* const no_language = fake_cf.array({fake_cf.string(u"d\u00E9"), text});
+    std::map<std::string, std::vector<fake_object const*>> const values = {
+        // the first one can be
+        {locale_key, {text, nullptr, list, no_locale}},
+        {user_key, {list, nullptr, text, fake_cf.array({}), fake_cf.array({list}), no_language}},
+        {application_key, {list, nullptr, text, fake_cf.array({}), no_language}},
+    };
+    for (auto const& [key, all] : values) {
+        for (auto const* const value : all) {
+            fake_cf.preferences = {{key, value}};
+            EXPECT_EQ(ask(key), value == all[0] ? "de" : "") << key;
+        }
+        fake_cf.preferences = {{key, all[0]}};
+        for (char const* const call : {"preferences", "CFStringGetCString"}) {
+            fake_cf.failing = call;
+            EXPECT_EQ(ask(key), "") << call;
+        }
+        fake_cf.failing.clear();
+    }
+    fake_cf.preferences = {{locale_key, text}};
+    fake_cf.failing = "CFLocaleCreateCanonicalLocaleIdentifierFromString";
+    EXPECT_EQ(macos.user_locale(), "");
+}
+
+TEST_F(MacosPreferences, ALanguageListIsStoredWholeOrNotAtAll) {
+    macos.store_application_languages({"en", "d\xC3\xA9"});
+    for (char const* const call : {"CFArrayCreateMutable", "CFStringCreateWithBytes", "none"}) {
+        EXPECT_EQ(fake_cf.stored, std::vector<std::string>());
+        fake_cf.failing = call;
+        macos.store_application_languages({"de-AT", "en"});
+    }
+    EXPECT_EQ(fake_cf.stored, (std::vector<std::string>{application_key, "de-AT", "en",
+                                                        "synchronized, current application"}));
+}
