@@ -1,6 +1,8 @@
 #include "catalog_bench.hpp"
 #include "comparison.hpp"
 #include "conversion_bench.hpp"
+#include "stream_bench.hpp"
+#include "text_bench.hpp"
 
 #include <exception>
 #include <iostream>
@@ -33,6 +35,8 @@ int main(int argc, char** argv) try {
         return 2;
     bench::register_catalog_benchmarks();
     bench::register_conversion_benchmarks();
+    bench::register_stream_benchmarks();
+    bench::register_text_benchmarks();
     bench::run();
     return 0;
 } catch (std::exception const& failure) {

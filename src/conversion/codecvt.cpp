@@ -1,8 +1,8 @@
+#include "conversion/encoding_context.hpp"
 #include "conversion/sized_conversion.hpp"
 
 #include <fl/i18n/codecvt.hpp>
 #include <fl/i18n/conversion_step.hpp>
-#include <fl/i18n/locale.hpp>
 
 #include <unicode/ucnv.h>
 
@@ -11,10 +11,6 @@
 namespace fl::i18n {
 
 namespace {
-
-std::unique_ptr<CvtCtx> open_context(std::string const& encoding) {
-    return std::make_unique<CvtCtx>(encoding.empty() ? QnLocale::global().encoding() : encoding);
-}
 
 /// Lends the converter of a context for one conversion, and resets it however that ends.
 class borrowed_converter {
@@ -40,7 +36,7 @@ codecvt_ustring_to_string::codecvt_ustring_to_string(std::string const& encoding
 
 codecvt_ustring_to_string::codecvt_ustring_to_string(codecvt_call_back_mode mode, std::string const& encoding,
                                                      std::string const& substitution)
-    : context_(open_context(encoding)) {
+    : context_(detail::open_context(encoding)) {
     if (mode != no_call_back)
         context_->change_from_call_back(mode, substitution);
 }
@@ -92,7 +88,7 @@ codecvt_string_to_ustring::codecvt_string_to_ustring(std::string const& encoding
     : codecvt_string_to_ustring(tolerate_invalid ? no_call_back : stop_call_back, encoding) {}
 
 codecvt_string_to_ustring::codecvt_string_to_ustring(codecvt_call_back_mode mode, std::string const& encoding)
-    : context_(open_context(encoding)) {
+    : context_(detail::open_context(encoding)) {
     if (mode != no_call_back)
         context_->change_to_call_back(mode);
 }

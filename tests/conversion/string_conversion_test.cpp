@@ -1,10 +1,8 @@
-#include "locale_runtime/global_locale_slot.hpp"
+#include "conversion/global_encoding.hpp"
 #include "support/threads.hpp"
 
 #include <fl/i18n/codecvt.hpp>
 #include <fl/i18n/cvt_exception.hpp>
-#include <fl/i18n/locale_context.hpp>
-#include <fl/i18n/locale_impl.hpp>
 #include <fl/i18n/string_conversion.hpp>
 
 #include <gtest/gtest.h>
@@ -15,15 +13,7 @@
 #include <random>
 
 using namespace fl::i18n;
-
-/// Puts a locale with another encoding in force, as a change of the global locale does.
-static void set_global_encoding(std::string const& encoding, std::string const& terminal = "") {
-    auto locale = std::make_unique<QnLocaleImpl>(QnLocale::global());
-    locale->setEncoding(encoding);
-    locale->setTerminalEncoding(terminal);
-    auto slot = std::make_unique<lcmgmt::global_locale_slot>(std::move(locale));
-    lcmgmt::get_qnlocale_context()->publish_slot(std::move(slot));
-}
+using fl::testing::set_global_encoding;
 
 TEST(StringConversion, UsesTheProcessEncoding) {
     std::pair<char const*, std::string> const rows[] = {

@@ -30,6 +30,10 @@ TEST(Boundary, ExceptionsAreCaughtByTheirClass) {
         {"Incorrect number of parameters supplied. Expected : 2 but found : 1",
          failure<MessageCatalog::IncorrectHoleCount>(
              [&] { MessageCatalog::GetFormattedMessage(two_holes, {1LL}); })},
+        {"Invalid argument error.",
+         failure<CtypeInvalidArgument>([] { character_handling_mode_context const mode(32); })},
+        {"fl:i18n:RegexInvalidArgument",
+         failure<RegexInvalidArgument>([] { pattern_match const m(u"", 0U); })},
         {"fl:i18n:QnLcInvLcName", failure<QnLcInvLcName>([] { QnLocale::createLocale("xx_nonsense"); })},
         {"Invalid encoding name specified.", failure<CvtInvalidEncodingName>([] {
              codecvt_ustring_to_string const converter("no-such-encoding", true);

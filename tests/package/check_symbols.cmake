@@ -1,7 +1,8 @@
 cmake_minimum_required(VERSION 3.25)
 
-# The library exports its interface and nothing else: no symbol outside namespace fl, but for what the standard
-# library and Boost must share between modules (their type information and template instances).
+# The library exports its interface and nothing else: no symbol outside namespace fl, but for an exception
+# family that keeps its own namespace, for what the standard library and Boost must share between modules (their
+# type information and template instances), and for the standard facets for char16_t.
 execute_process(COMMAND "${NM}" --dynamic --defined-only --demangle "${LIBRARY}"
   OUTPUT_VARIABLE output RESULT_VARIABLE result)
 if(NOT result EQUAL 0)
@@ -11,7 +12,10 @@ string(REPLACE ";" "," output "${output}")
 string(REPLACE "\n" ";" lines "${output}")
 set(own 0)
 foreach(line IN LISTS lines)
-  if(line MATCHES " [TDBR] fl::")
+  if(line MATCHES " [TDBR] std::(__[a-z0-9_]+::)?(ctype|numpunct)(_byname)?<char16_t>::")
+    continue()
+  endif()
+  if(line MATCHES " [TDBR] (fl|foundation::ustring)::")
     math(EXPR own "${own} + 1")
   elseif(line MATCHES " [TDBR] ")
     message(SEND_ERROR "exported without need: ${line}")

@@ -1,0 +1,98 @@
+/// @file
+/// What failed operations on text throw.
+///
+/// One class per kind of failure, all below `foundation::ustring::CtypeExceptionBase`, so that a caller may
+/// handle one kind, the whole family, or any `std::exception`:
+///
+///     try {
+///         size = detail::transform(dst, room, text.data(), text.size(), to_nfc());
+///     } catch (foundation::ustring::CtypeExceptionBase const& failure) {
+///         log(failure.what(), failure.error_code());
+///     }
+///
+/// What is thrown can be carried to another thread in a `boost::exception_ptr` or a `std::exception_ptr`.
+#pragma once
+
+#include <fl/i18n/export.hpp>
+
+#include <cstdint>
+#include <exception>
+#include <string>
+
+namespace foundation::ustring {
+
+/// The family of all failures of text operations.
+class FL_I18N_EXPORT CtypeExceptionBase : public std::exception {
+public:
+    CtypeExceptionBase(CtypeExceptionBase const&) = default;
+    CtypeExceptionBase& operator=(CtypeExceptionBase const&) = default;
+    ~CtypeExceptionBase() override;
+
+    /// The sentence of the class, ASCII. It lives as long as the exception object.
+    char const* what() const noexcept override;
+
+    /// A number that stays the same for a class over all releases: 0 to 4, as stated at each class.
+    std::int32_t kind() const noexcept { return kind_; }
+
+    /// ICU's status (a value of `UErrorCode`) where a call of ICU failed, else 0.
+    std::int32_t error_code() const noexcept { return error_code_; }
+
+protected:
+    CtypeExceptionBase(std::string message, std::int32_t kind, std::int32_t error_code);
+
+private:
+    std::string message_;
+    std::int32_t kind_;
+    std::int32_t error_code_;
+};
+
+/// A character stands where none of its kind may. Kind 3, "Invalid character error."
+class FL_I18N_EXPORT CtypeInvalidCharacter : public CtypeExceptionBase {
+public:
+    CtypeInvalidCharacter();
+    CtypeInvalidCharacter(CtypeInvalidCharacter const&) = default;
+    CtypeInvalidCharacter& operator=(CtypeInvalidCharacter const&) = default;
+    ~CtypeInvalidCharacter() override;
+};
+
+} // namespace foundation::ustring
+
+namespace fl::i18n {
+
+/// A length is 2^31 or more, beyond what ICU can count. Kind 0, "Data size too large."
+class FL_I18N_EXPORT CtypeSizeTooLarge : public foundation::ustring::CtypeExceptionBase {
+public:
+    CtypeSizeTooLarge();
+    CtypeSizeTooLarge(CtypeSizeTooLarge const&) = default;
+    CtypeSizeTooLarge& operator=(CtypeSizeTooLarge const&) = default;
+    ~CtypeSizeTooLarge() override;
+};
+
+/// ICU failed to transform a text, with the status in `error_code()`. Kind 1, "Transformation failure."
+class FL_I18N_EXPORT CtypeTransformFailure : public foundation::ustring::CtypeExceptionBase {
+public:
+    explicit CtypeTransformFailure(std::int32_t error_code);
+    CtypeTransformFailure(CtypeTransformFailure const&) = default;
+    CtypeTransformFailure& operator=(CtypeTransformFailure const&) = default;
+    ~CtypeTransformFailure() override;
+};
+
+/// ICU failed to compare two texts, with the status in `error_code()`. Kind 2, "String comparison failure."
+class FL_I18N_EXPORT CtypeStrCompFailure : public foundation::ustring::CtypeExceptionBase {
+public:
+    explicit CtypeStrCompFailure(std::int32_t error_code);
+    CtypeStrCompFailure(CtypeStrCompFailure const&) = default;
+    CtypeStrCompFailure& operator=(CtypeStrCompFailure const&) = default;
+    ~CtypeStrCompFailure() override;
+};
+
+/// An argument is not one that the operation takes. Kind 4, "Invalid argument error."
+class FL_I18N_EXPORT CtypeInvalidArgument : public foundation::ustring::CtypeExceptionBase {
+public:
+    CtypeInvalidArgument();
+    CtypeInvalidArgument(CtypeInvalidArgument const&) = default;
+    CtypeInvalidArgument& operator=(CtypeInvalidArgument const&) = default;
+    ~CtypeInvalidArgument() override;
+};
+
+} // namespace fl::i18n

@@ -1,0 +1,160 @@
+#include "conversion/charset_guess.hpp"
+#include "conversion/charset_settings.hpp"
+#include "support/threads.hpp"
+
+#include <fl/i18n/charset_detection.hpp>
+#include <fl/i18n/locale.hpp>
+
+#include <gtest/gtest.h>
+#include <unicode/uclean.h>
+#include <unicode/ustring.h>
+
+#include <atomic>
+#include <iostream>
+#include <random>
+#include <sstream>
+
+using namespace fl::i18n;
+
+static std::string const japanese = // in Shift_JIS
+    "\x8D\x91\x8D\xDB\x89\xBB\x82\xC6\x92\x6E\x88\xE6\x89\xBB\x82\xCD\x81\x41\x83\x5C"
+    "\x83\x74\x83\x67\x83\x45\x83\x46\x83\x41\x82\xF0\x90\xA2\x8A\x45\x82\xC5";
+static std::string const damaged_utf8 =
+    "\uFEFF\u00e9\u00e8\u00ea\u00eb\u00e0\u00e2\u00e4\u00ee\u00ef\u00f4\u00f9\xFF\u00fb";
+static std::string const noise = "\xFF\x81\xFD";
+
+static std::string detect(std::string const& bytes, std::ostream&& diagnostics = std::ostringstream()) {
+    std::vector<char> const block(bytes.begin(), bytes.end()); // of the exact size, for sanitizers
+    return detect_charset(block.data(), block.size(), diagnostics, u"caf\u00e9");
+}
+
+static std::string system_encoding() {
+    std::string const encoding = QnLocale::system().localeSpecificEncoding();
+    EXPECT_TRUE(!encoding.empty() && encoding != "UTF-8") << "the answers would not be told apart";
+    return encoding;
+}
+
+// The environment is read once: each of the following runs in a process of its own.
+
+TEST(CharsetDetection, AnswersByRuleOrStatistics) {
+    std::atomic<int> wrong{0};
+    fl::testing::run_in_threads(8, [&](int) { wrong += detect(japanese) != "Shift_JIS"; });
+    EXPECT_EQ(0, wrong);
+    std::pair<std::string, std::string> const rows[] = {
+        {"", "UTF-8"},
+        {"plain", "UTF-8"},
+        {std::string("pl\0ain", 6), "UTF-8"},
+        {"caf\u00e9", "UTF-8"},
+        {std::string(100000, 'x') + japanese, "Shift_JIS"},
+        {std::string("\0\xFF\0B", 4), system_encoding()},
+        {std::string("\0B\0e\0g\0i\0n\0s\0w\0i\0t\0h\0N\0U\0L", 26), "UTF-16BE"},
+        {std::string(64, 'x') + noise + std::string("\0", 1), system_encoding()}};
+    std::ostringstream silent;
+    for (auto const& [bytes, expected] : rows)
+        EXPECT_EQ(expected, detect(bytes, std::move(silent))) << testing::PrintToString(bytes.substr(0, 40));
+    EXPECT_EQ("", silent.str());
+    EXPECT_EQ("UTF-8", detect_charset(nullptr, 9, std::cout, u""));
+    setenv("QN_NO_CHARSET_DETECTION", "", 1); // too late
+    EXPECT_EQ("Shift_JIS", detect(japanese));
+    EXPECT_EQ("", detail::guess_charset(noise + japanese, {}, "", nullptr, noise.size())) << "sees one slice";
+}
+
+TEST(CharsetDetection, AsciiCanCountAsTheSystemsEncoding) {
+    setenv("QN_USE_DEFAULT_CHARSET_FOR_ASCII", "", 1);
+    EXPECT_EQ(system_encoding() + system_encoding(), detect("") + detect(std::string("plain\0", 6)));
+    EXPECT_EQ("UTF-8", detect(std::string("pl\0ain", 6))) << "no ASCII";
+}
+
+TEST(CharsetDetection, CanBeTurnedOff) {
+    setenv("QN_NO_CHARSET_DETECTION", "0", 1);
+    EXPECT_EQ("UTF-8UTF-8", detect(japanese) + detect(noise));
+}
+
+TEST(CharsetDetection, ThresholdsAreReadWhenTheDetectorIsNeeded) {
+    std::pair<char const*, int> const rows[] = {{"1", 1},    {"100", 100}, {" 55x", 55}, {"0", 90},
+                                                {"101", 90}, {"x", 90},    {nullptr, 90}};
+    for (auto const& [text, expected] : rows)
+        EXPECT_EQ(expected, detail::threshold_or(text, 90)) << (text ? text : "null");
+    std::string const french = "\xC3\xA9 \xC3\xA9t\xE9 voil\xC3\xA0 \xC3\xA9\xC3\xA8"; // 16, then 10
+    for (auto const& [text, believes] : {std::pair("12", true), {"17", false}, {"100", false}, {"0", false}})
+        EXPECT_EXIT((setenv("QN_CHARSET_DETECT_THRESHOLD", text, 1),
+                     std::exit(detect(french) != (believes ? "ISO-8859-1" : system_encoding()))),
+                    testing::ExitedWithCode(0), "")
+            << text;
+    EXPECT_EQ("UTF-8UTF-8", detail::guess_charset(damaged_utf8, {}, "", nullptr) + detect(""));
+    setenv("QN_CHARSET_DETECT_UTF8_THRESHOLD", "81", 1);
+    EXPECT_EQ(system_encoding(), detect(damaged_utf8)) << "has a confidence of 80";
+}
+
+TEST(CharsetDetection, DiagnosticsTellTheSteps) {
+    setenv("QN_CHARSET_DETECT_DIAG", "", 1);
+    std::ostringstream told;
+    detect("plain", std::move(told));
+    detect("caf\u00e9", std::move(told));
+    detect("ascii is dropped\xFF\xFE\xE9xyz", std::move(told));
+    EXPECT_EQ("Validated encoding: UTF-8\nAutodetecting encoding for caf\u00e9\nMatch[0] (100) UTF-16LE\n"
+              "Match[1] (10) UTF-16BE\nMatch[2] (10) Shift_JIS\nMatch[3] (10) GB18030\nMatch[4] (10) Big5\n"
+              "Detected encoding: UTF-16LE\n",
+              told.str());
+}
+
+static bool is_memory_short = false;
+
+TEST(CharsetDetection, AFailureOfIcuIsToldAndEndsInTheFallback) {
+    UErrorCode status = U_ZERO_ERROR;
+    u_setMemoryFunctions(
+        nullptr, [](void const*, std::size_t size) { return is_memory_short ? nullptr : std::malloc(size); },
+        [](void const*, void* block, std::size_t size) { return std::realloc(block, size); },
+        [](void const*, void* block) { std::free(block); }, &status);
+    ASSERT_EQ(U_ZERO_ERROR, status);
+    is_memory_short = true;
+    std::ostringstream told;
+    EXPECT_EQ("fallback", detail::guess_charset(japanese, {}, "fallback", &told));
+    is_memory_short = false;
+    EXPECT_EQ("uscdet_open returned error: [7]\nuscdet_setText returned error: [7]\n"
+              "uscdet_detectAll returned error: [7]\n",
+              told.str());
+    EXPECT_EQ("Shift_JIS", detail::guess_charset(japanese, {}, "fallback", nullptr));
+}
+
+TEST(CharsetSelection, BelievesWhatConvincesAndElseTheFallback) {
+    // The first guess, the second ("-" for none), the two thresholds, the choice.
+    std::istringstream rows(R"(
+        -     0   -     0  90  80  no      A     90   -     0    90  80   A      A      89  -     0   90 80  no
+        A     92  B     47 90  80  A       A     92   B     48   90  80   no     A      91  B     46  91 80  A
+        A     92  B     2  93  80  no      A     100  B     100  90  80   A      UTF-8  85  A     70  90 80  UTF-8
+        utf-8 85  -     0  90  80  no      UTF-8 79   -     0    90  80   no     A      85  UTF-8 20  90 80  UTF-8
+        A     80  UTF-8 80 90  81  no      IBM420_ltr 100 - 0    90  80   no     IBM420_rtl 100 B 1   90 80  no
+        IBM424_ltr 99 B 1  90  80  no      IBM424_rtl 100 UTF-8 10 90 100 UTF-8
+        A     99  B     99 90  80  no)");
+    std::string first, second, expected;
+    int confidence[2], limits[2], count = 0;
+    while (rows >> first >> confidence[0] >> second >> confidence[1] >> limits[0] >> limits[1] >> expected) {
+        std::vector<detail::charset_match> guesses = {
+            {first, confidence[0]}, {second, confidence[1]}, {"UTF-8", 1}};
+        guesses.resize(first == "-" ? 0 : second == "-" ? 1 : 3);
+        std::vector const block = guesses; // of the exact size, for sanitizers
+        EXPECT_EQ(expected, select_charset(block, {limits[0], limits[1]}, "no"))
+            << first << " in row " << count;
+        ++count;
+    }
+    EXPECT_EQ(18, count);
+}
+
+// Slices of a few bytes meet each kind of cut; the oracle is ICU on the whole text.
+TEST(CharsetRules, SlicesDoNotShowInTheTestForUtf8) {
+    std::minstd_rand random(11);
+    std::string const parts[] = {"a",    "\u00e9", "\u65e5",   "\U0001F600",
+                                 "\x80", "\xC3",   "\xE3\x81", "\xED\xA0\x80"};
+    for (int i = 0, valid = 0; i < 20000 || valid < 2000; ++i) {
+        std::string text;
+        for (auto n = random() % 12; n != 0; --n)
+            text += parts[random() % (random() % 4 != 0 ? 4 : 8)];
+        UErrorCode status = U_ZERO_ERROR;
+        u_strFromUTF8(nullptr, 0, nullptr, text.data(), static_cast<std::int32_t>(text.size()), &status);
+        valid += status != U_INVALID_CHAR_FOUND;
+        for (std::size_t const slice : {4u, 5u, 6u, 7u, 13u, 99u})
+            EXPECT_EQ(status != U_INVALID_CHAR_FOUND, detail::is_utf8(text, slice))
+                << testing::PrintToString(text);
+    }
+}

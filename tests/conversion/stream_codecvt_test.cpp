@@ -1,0 +1,150 @@
+#include "conversion/global_encoding.hpp"
+#include "support/failure.hpp"
+
+#include <fl/i18n/codecvt.hpp>
+#include <fl/i18n/cvt_exception.hpp>
+#include <fl/i18n/stream_codecvt.hpp>
+
+#include <gtest/gtest.h>
+
+using namespace fl::i18n;
+
+/// Converts one piece, `room` units at a time. The piece lies in a block of its exact size, and canaries lie
+/// behind the room: nothing else may be read or written.
+template <class To, class From>
+static void convert(stream_converter<To, From> const& cvt, std::basic_string<From> const& piece, bool flush,
+                    std::size_t room, std::basic_string<To>& result) {
+    std::vector<From> const block(piece.begin(), piece.end());
+    From const *src = block.data(), *const end = src + block.size();
+    bool more = true;
+    for (std::size_t calls = 0; more && calls < 99 * (piece.size() + 1); ++calls) {
+        std::basic_string<To> buffer(room + 8, To('#'));
+        To* dst = buffer.data();
+        more = cvt.do_convert(&dst, dst + room, &src, end, flush);
+        ASSERT_EQ(std::basic_string<To>(8, To('#')), buffer.substr(room));
+        result.append(buffer.data(), dst);
+    }
+    ASSERT_TRUE(!more && src == end) << "something is left";
+}
+
+/// All ways to make three pieces of the text. One object serves them all, so that what one text leaves behind shows
+/// in the next.
+template <class To, class From>
+static void expect_cuts_do_not_show(stream_converter<To, From> const& cvt,
+                                    std::basic_string<From> const& text,
+                                    std::basic_string<To> const& expected) {
+    for (std::size_t const room : {1u, 2u, 3u, 7u, 900u})
+        for (std::size_t i = 0; i <= text.size(); ++i)
+            for (std::size_t j = i; j <= text.size(); ++j) {
+                std::basic_string<To> result;
+                convert(cvt, text.substr(0, i), false, room, result);
+                convert(cvt, text.substr(i, j - i), false, room, result);
+                convert(cvt, text.substr(j), true, room, result);
+                ASSERT_EQ(expected, result) << i << ", " << j << ", room for " << room << typeid(cvt).name();
+            }
+}
+
+TEST(StreamCodecvt, AnySplitGivesWhatTheWholeTextGives) {
+    fl::ustring const text = u"a\u00e9\U0001F600\u65e5b\uac00\U00020000\uff71\u4e00~+&\xDC00z\xD83D";
+    codecvt_ustring_to_string const utf8("UTF-8", true);
+    for (char const* const name :
+         {"UTF-8", "UTF-16", "UTF-32", "UTF-7", "IMAP-mailbox-name", "BOCU-1", "CESU-8", "GB18030",
+          "Shift_JIS", "EUC-JP", "Big5-HKSCS", "ISO-2022-JP", "ISO-2022-KR", "ISO-2022-CN", "ibm-930",
+          "ibm-1364", "ISO-8859-1", "windows-1251"}) {
+        SCOPED_TRACE(name);
+        codecvt_ustring_to_string const out(name, true), escape(escape_xml_hex_call_back, name, "");
+        std::string const bytes = out.convert(text.data(), text.size());
+        std::string const bad_bytes =
+            bytes.substr(0, 9) + "\x93\xFF\x1B$X\xE3" + bytes.substr(9) + "\xE3\x81";
+        std::string const bad_utf8 = utf8.convert(text.data(), text.size()) + "\xFF\xE3\x81";
+        fl::ustring const read =
+            codecvt_string_to_ustring(name, true).convert(bad_bytes.data(), bad_bytes.size());
+        fl::ustring const read_utf8 =
+            codecvt_string_to_ustring("UTF-8", true).convert(bad_utf8.data(), bad_utf8.size());
+        expect_cuts_do_not_show(stream_codecvt_ustring_to_string(name, true), text, bytes);
+        expect_cuts_do_not_show(stream_codecvt_string_to_ustring(name, true), bad_bytes, read);
+        expect_cuts_do_not_show(stream_codecvt_string_to_utf8string(name, true), bad_bytes,
+                                utf8.convert(read.data(), read.size()));
+        expect_cuts_do_not_show(stream_codecvt_utf8string_to_string(name, true), bad_utf8,
+                                escape.convert(read_utf8.data(), read_utf8.size()));
+    }
+}
+
+TEST(StreamCodecvt, TextsLongerThanThePivotComeOutWhole) {
+    fl::ustring text;
+    while (text.size() < 30000) // the pivot of 4096 units ends in all places of it
+        text += u"a\u00e9\U0001F600\u65e5";
+    codecvt_ustring_to_string const utf8("UTF-8", true);
+    for (char const* const name : {"GB18030", "UTF-16", "ISO-2022-KR"})
+        for (std::size_t const room : {7u, 5000u}) {
+            codecvt_ustring_to_string const out(name, true), escape(escape_xml_hex_call_back, name, "");
+            std::string const bytes = out.convert(text.data(), text.size());
+            fl::ustring const read =
+                codecvt_string_to_ustring(name, true).convert(bytes.data(), bytes.size());
+            std::string written, written_utf8, escaped;
+            fl::ustring units;
+            convert(stream_codecvt_ustring_to_string(name, true), text, true, room, written);
+            convert(stream_codecvt_string_to_ustring(name, true), bytes, true, room, units);
+            convert(stream_codecvt_string_to_utf8string(name, true), bytes, true, room, written_utf8);
+            convert(stream_codecvt_utf8string_to_string(name, true), utf8.convert(text.data(), text.size()),
+                    true, room, escaped);
+            EXPECT_TRUE(written == bytes && units == read) << name << room;
+            EXPECT_TRUE(written_utf8 == utf8.convert(read.data(), read.size())) << name << room;
+            EXPECT_TRUE(escaped == escape.convert(text.data(), text.size())) << name << room;
+        }
+}
+
+/// Fails on the text, and is clean then: after a reset by itself, and after one by the caller in mid-character.
+template <class Stream, class To = char, class From = char>
+static void expect_failure(char const* encoding, std::basic_string<From> const& text, auto const& expected) {
+    Stream const strict(encoding, false);
+    std::basic_string<To> before, after;
+    auto const whole = [&] { convert(strict, text, true, 2, before); };
+    EXPECT_EQ(expected.what(), fl::testing::failure<std::decay_t<decltype(expected)>>(whole)) << encoding;
+    convert(strict, std::basic_string<From>(2, 'b'), true, 1, after);
+    convert(strict, text.substr(0, 2), false, 1, before);
+    strict.do_reset_state();
+    convert(strict, std::basic_string<From>(2, 'b'), true, 1, after);
+    EXPECT_EQ(std::basic_string<To>(4, 'b'), after) << encoding << testing::PrintToString(text);
+}
+
+TEST(StreamCodecvt, StrictObjectsRaiseAndStartAnew) {
+    CvtInvalidCharacter const bad;
+    CvtConversionFailure const cut;
+    expect_failure<stream_codecvt_ustring_to_string>("ISO-8859-1", fl::ustring(u"aa\u20ac"), bad);
+    expect_failure<stream_codecvt_ustring_to_string>("UTF-8", fl::ustring(u"a\xD83D"), cut);
+    expect_failure<stream_codecvt_string_to_ustring, char16_t>("UTF-8", std::string("a\xE3z"), bad);
+    expect_failure<stream_codecvt_string_to_ustring, char16_t>("ISO-2022-JP", std::string("a\x1B$X"), cut);
+    expect_failure<stream_codecvt_utf8string_to_string>("ISO-8859-1", std::string("a\u20ac"), bad);
+    expect_failure<stream_codecvt_utf8string_to_string>("ISO-8859-1", std::string("a\xE3\x81"), cut);
+    expect_failure<stream_codecvt_string_to_utf8string>("Shift_JIS", std::string("aa\xFF"), bad);
+    expect_failure<stream_codecvt_string_to_utf8string>("Shift_JIS", std::string("a\x93"), cut);
+    EXPECT_THROW(stream_codecvt_utf8string_to_string("no-such-encoding", true), CvtInvalidEncodingName);
+}
+
+TEST(StreamCodecvt, SizesAndNullRanges) {
+    using other = detail::stream_codecvt_multi_streaming_converter;
+    EXPECT_EQ(4u, stream_codecvt_ustring_to_string("UTF-8", true).do_max_char_size());
+    EXPECT_EQ(2u, stream_codecvt_string_to_ustring("GB18030", true).do_max_char_size());
+    EXPECT_EQ(2u, stream_codecvt_utf8string_to_string("Shift_JIS", true).do_max_char_size());
+    EXPECT_EQ(1u, stream_codecvt_string_to_utf8string("latin1", true).do_max_char_size());
+    EXPECT_EQ(0u, other("UTF-16", detail::MultiStreamConvType(7), true).do_max_char_size());
+
+    // A reset forgets what waits in the converters and between them; the global locale names the encoding.
+    fl::testing::set_global_encoding("ISO-8859-1");
+    stream_codecvt_utf8string_to_string const cvt("", true);
+    std::string const text(9000, '\x80'), euro = "\u20ac";
+    char buffer[9], *dst = buffer;
+    char const *src = text.data(), *none = nullptr;
+    EXPECT_TRUE(cvt.do_convert(&dst, buffer + 9, &src, src + text.size(), false));
+    cvt.do_reset_state();
+    EXPECT_TRUE(cvt.do_convert(&(dst = nullptr), nullptr, &(src = euro.data()), euro.data() + 3, false));
+    EXPECT_FALSE(cvt.do_convert(&(dst = buffer), buffer + 9, &src, euro.data() + 3, false));
+    EXPECT_FALSE(cvt.do_convert(&dst, buffer + 9, &none, nullptr, true));
+    EXPECT_EQ("&#x20AC;", std::string(buffer, dst));
+    for (bool const has_room : {true, false}) // one of the limits is missing
+        EXPECT_THROW(cvt.do_convert(&(dst = buffer), has_room ? buffer + 9 : nullptr, &(src = text.data()),
+                                    has_room ? nullptr : text.data() + 1, false),
+                     CvtConversionFailure)
+            << has_room;
+}
