@@ -1,6 +1,7 @@
 #include "catalog_bench.hpp"
 #include "comparison.hpp"
 #include "conversion_bench.hpp"
+#include "directory_bench.hpp"
 #include "stream_bench.hpp"
 #include "text_bench.hpp"
 
@@ -35,6 +36,7 @@ int main(int argc, char** argv) try {
         return 2;
     bench::register_catalog_benchmarks();
     bench::register_conversion_benchmarks();
+    bench::register_directory_benchmarks();
     bench::register_stream_benchmarks();
     bench::register_text_benchmarks();
     bench::run();

@@ -4,13 +4,23 @@
 ///
 /// - paths as text: path.hpp; what the disk says about them: file_status.hpp
 /// - opening files: file.hpp; names and bytes: codecvt.hpp
+/// - what is in a directory: directory_iterator.hpp, recursive_directory_iterator.hpp; an entry of it:
+///   directory_entry.hpp; wildcards: directory_pattern.hpp
+/// - the rules of a volume for names: path_compare.hpp, path_validation.hpp; temporary files: temporary.hpp
 /// - where the library is installed: install_path.hpp
 #pragma once
 
 #include <fl/filesystem/boost_path.hpp>
 #include <fl/filesystem/codecvt.hpp>
+#include <fl/filesystem/directory_entry.hpp>
+#include <fl/filesystem/directory_iterator.hpp>
+#include <fl/filesystem/directory_pattern.hpp>
 #include <fl/filesystem/exceptions.hpp>
 #include <fl/filesystem/file.hpp>
 #include <fl/filesystem/file_status.hpp>
 #include <fl/filesystem/install_path.hpp>
 #include <fl/filesystem/path.hpp>
+#include <fl/filesystem/path_compare.hpp>
+#include <fl/filesystem/path_validation.hpp>
+#include <fl/filesystem/recursive_directory_iterator.hpp>
+#include <fl/filesystem/temporary.hpp>

@@ -1,6 +1,8 @@
 /// The properties of the volume that a file lies on.
 #pragma once
 
+#include <fl/i18n/character_handling_mode.hpp>
+
 #include <cstdint>
 #include <string>
 
@@ -9,5 +11,9 @@ namespace fl::filesystem::detail {
 /// The bits of `platform::services::volume_flags` for the volume of `path`, in bytes. Read at each call.
 /// Throws the exception of the system's `errno` value, with the path.
 std::uint32_t read_volume_flags(std::string const& path);
+
+/// The rules for names on that volume: its flags, with the one bit for decomposed names widened to the two
+/// that `is_normalized_decompose_mode()` asks for. Read at each call; throws likewise.
+fl::i18n::character_handling_mode_context read_volume_rules(std::string const& path);
 
 } // namespace fl::filesystem::detail

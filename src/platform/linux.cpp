@@ -1,12 +1,17 @@
+#include "platform/directory.hpp"
 #include "platform/environment_preferences.hpp"
 #include "platform/posix.hpp"
 #include "platform/stat_times.hpp"
 
 #include <array>
+#include <cerrno>
 #include <climits>
 #include <cstdlib>
 #include <dlfcn.h>
+#include <fcntl.h>
+#include <linux/openat2.h>
 #include <sys/auxv.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 namespace fl::platform {
@@ -95,6 +100,17 @@ services const& native() noexcept {
 
 stat_times times_of(struct stat const& record) noexcept {
     return {record.st_atim, record.st_mtim, record.st_ctim};
+}
+
+int open_directory_without_links(int base, char const* path) noexcept {
+    open_how how{};
+    how.flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+    how.resolve = RESOLVE_NO_SYMLINKS;
+    int const directory = static_cast<int>(::syscall(SYS_openat2, base, path, &how, sizeof how));
+    // A kernel before 5.6 doesn't know the call, and some containers forbid it.
+    if (directory < 0 && (errno == ENOSYS || errno == EPERM))
+        return open_directory_by_steps(base, path);
+    return directory;
 }
 
 } // namespace fl::platform

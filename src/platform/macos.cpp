@@ -1,9 +1,11 @@
+#include "platform/directory.hpp"
 #include "platform/macos_preferences.hpp"
 #include "platform/posix.hpp"
 #include "platform/stat_times.hpp"
 
 #include <cerrno>
 #include <dlfcn.h>
+#include <fcntl.h>
 #include <string_view>
 #include <sys/attr.h>
 #include <sys/mount.h>
@@ -75,6 +77,10 @@ services const& native() noexcept {
 
 stat_times times_of(struct stat const& record) noexcept {
     return {record.st_atimespec, record.st_mtimespec, record.st_ctimespec};
+}
+
+int open_directory_without_links(int base, char const* path) noexcept {
+    return ::openat(base, path, O_RDONLY | O_DIRECTORY | O_NOFOLLOW_ANY | O_CLOEXEC);
 }
 
 } // namespace fl::platform

@@ -1,12 +1,16 @@
 // The services of macOS on doubles of its calls, so that they are compiled and seen on any system.
+#include "platform/directory.hpp"
 #include "platform/platform.hpp"
+#include "support/temp_tree.hpp"
 
 #include <gtest/gtest.h>
 
 #include <CoreFoundation/CoreFoundation.h>
 #include <dlfcn.h>
+#include <fcntl.h>
 #include <sys/attr.h>
 #include <sys/mount.h>
+#include <unistd.h>
 
 namespace {
 
@@ -58,6 +62,16 @@ TEST(Macos, AModuleIsKnownByTheLoadersName) {
     EXPECT_EQ((fake_module = "/x/lib.dylib", macos.module_path(&here)), "/x/lib.dylib");
     EXPECT_EQ(macos.module_path(nullptr), "");
     EXPECT_EQ((fake_module = nullptr, macos.module_path(&here)), "");
+}
+
+TEST(Macos, ADirectoryIsNotOpenedByALink) {
+    fl::testing::temp_tree const tree;
+    tree.file("a/file"), create_symlink(tree.root(), tree.root() / "link");
+    for (std::string const name : {"a", "link", "a/file", "no"}) {
+        int const opened = fl::platform::open_directory_without_links(AT_FDCWD, (tree.root() / name).c_str());
+        EXPECT_EQ(opened >= 0, name == "a") << name;
+        ::close(opened);
+    }
 }
 
 TEST_F(MacosPreferences, TheLocaleIsCanonicalLatin1OfAnyLength) {

@@ -9,6 +9,20 @@ namespace {
 
 using boost::posix_time::ptime;
 
+/// A file may carry any 64-bit second; `ptime` ends at the years 1400 and 9999.
+ptime to_ptime(std::timespec const& time) {
+    static constexpr std::int64_t year_1400 = -17'987'443'200;
+    static constexpr std::int64_t year_10000 = 253'402'300'800;
+    if (time.tv_sec < year_1400)
+        return ptime(boost::posix_time::neg_infin);
+    if (time.tv_sec >= year_10000)
+        return ptime(boost::posix_time::pos_infin);
+    std::int64_t const microseconds = std::int64_t{time.tv_sec} * 1'000'000 + time.tv_nsec / 1'000;
+    return ptime(boost::gregorian::date(1970, 1, 1), boost::posix_time::microseconds(microseconds));
+}
+
+} // namespace
+
 std::uint32_t type_of(mode_t mode) noexcept {
     switch (mode & S_IFMT) {
     case S_IFREG:
@@ -29,20 +43,6 @@ std::uint32_t type_of(mode_t mode) noexcept {
         return file_status::file_type_unknown;
     }
 }
-
-/// A file may carry any 64-bit second; `ptime` ends at the years 1400 and 9999.
-ptime to_ptime(std::timespec const& time) {
-    static constexpr std::int64_t year_1400 = -17'987'443'200;
-    static constexpr std::int64_t year_10000 = 253'402'300'800;
-    if (time.tv_sec < year_1400)
-        return ptime(boost::posix_time::neg_infin);
-    if (time.tv_sec >= year_10000)
-        return ptime(boost::posix_time::pos_infin);
-    std::int64_t const microseconds = std::int64_t{time.tv_sec} * 1'000'000 + time.tv_nsec / 1'000;
-    return ptime(boost::gregorian::date(1970, 1, 1), boost::posix_time::microseconds(microseconds));
-}
-
-} // namespace
 
 file_status to_file_status(struct stat const& record) {
     platform::stat_times const times = platform::times_of(record);

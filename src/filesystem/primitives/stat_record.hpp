@@ -7,6 +7,9 @@
 
 namespace fl::filesystem::detail {
 
+/// The type in an `st_mode`, as one of the constants of `file_status`.
+std::uint32_t type_of(mode_t mode) noexcept;
+
 file_status to_file_status(struct stat const& record);
 
 /// The status where there is no file.

@@ -1,0 +1,73 @@
+#include "filesystem/directory/open_directory.hpp"
+
+#include "filesystem/primitives/utf8_name.hpp"
+#include "platform/directory.hpp"
+
+#include <algorithm>
+#include <cerrno>
+#include <climits>
+#include <unistd.h>
+
+namespace fl::filesystem::detail {
+namespace {
+
+constexpr std::size_t longest_path = PATH_MAX - 1;
+
+/// As many components from the beginning of `path` as a system call takes.
+std::string_view first_part(std::string_view path) noexcept {
+    if (path.size() <= longest_path)
+        return path;
+    return path.substr(0, path.rfind('/', longest_path)); // names are much shorter
+}
+
+file_descriptor open_part(int base, std::string_view part) {
+    file_descriptor opened(platform::open_directory_without_links(base, std::string(part).c_str()));
+    if (!opened.is_open() && errno == ELOOP)
+        errno = ENOTDIR;
+    return opened;
+}
+
+} // namespace
+
+file_descriptor& file_descriptor::operator=(file_descriptor other) noexcept {
+    std::swap(descriptor_, other.descriptor_);
+    return *this;
+}
+
+file_descriptor::~file_descriptor() {
+    if (is_open())
+        ::close(descriptor_);
+}
+
+int file_descriptor::release() noexcept {
+    return std::exchange(descriptor_, -1);
+}
+
+ustring const& open_directory::text() const {
+    if (!text_)
+        text_ = name_from_utf8(node->path(), replacement_character);
+    return *text_;
+}
+
+directory_handle open_by_path(std::string const& path) noexcept {
+    return directory_handle(::opendir(path.c_str()));
+}
+
+file_descriptor open_below(int root, std::string_view path) {
+    file_descriptor directory;
+    do {
+        std::string_view const part = first_part(path);
+        path.remove_prefix(std::min(part.size() + 1, path.size()));
+        directory = open_part(directory.is_open() ? directory.get() : root, part);
+    } while (directory.is_open() && !path.empty());
+    return directory;
+}
+
+directory_handle to_handle(file_descriptor directory) noexcept {
+    directory_handle handle(directory.is_open() ? ::fdopendir(directory.get()) : nullptr);
+    if (handle)
+        directory.release();
+    return handle;
+}
+
+} // namespace fl::filesystem::detail

@@ -1,0 +1,67 @@
+/// A directory that is being read, and where it is.
+#pragma once
+
+#include "filesystem/directory/directory_node.hpp"
+
+#include <fl/i18n/ustring.hpp>
+
+#include <cstddef>
+#include <dirent.h>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace fl::filesystem::detail {
+
+/// The owner of a descriptor.
+class file_descriptor {
+public:
+    file_descriptor() noexcept = default;
+    explicit file_descriptor(int descriptor) noexcept : descriptor_(descriptor) {}
+    file_descriptor(file_descriptor&& other) noexcept : descriptor_(other.release()) {}
+    file_descriptor& operator=(file_descriptor other) noexcept;
+    ~file_descriptor();
+
+    bool is_open() const noexcept { return descriptor_ >= 0; }
+    int get() const noexcept { return descriptor_; }
+    int release() noexcept;
+
+private:
+    int descriptor_ = -1;
+};
+
+struct directory_closer {
+    void operator()(DIR* handle) const noexcept { ::closedir(handle); }
+};
+using directory_handle = std::unique_ptr<DIR, directory_closer>;
+
+/// What an iterator and its entries share, for one thread at a time. Entries may live longer than the
+/// iterator, which closes the directory at its end.
+struct open_directory {
+    open_directory(std::shared_ptr<directory_node> own_node, directory_handle open_handle) noexcept
+        : node(std::move(own_node)),
+          handle(std::move(open_handle)) {}
+
+    /// The absolute path as text, made at the first call.
+    ustring const& text() const;
+
+    std::shared_ptr<directory_node> const node;
+    directory_handle handle; ///< null at the end
+
+private:
+    mutable std::optional<ustring> text_;
+};
+
+/// Opens the directory, links followed. Null with `errno` on failure.
+directory_handle open_by_path(std::string const& path) noexcept;
+
+/// Opens the directory `path`, which is relative to `root`, any length of it, and no component a link: one
+/// that is fails with `ENOTDIR`. Closed with `errno` on failure.
+file_descriptor open_below(int root, std::string_view path);
+
+/// For reading the directory, if it is open; null, with `errno`, otherwise.
+directory_handle to_handle(file_descriptor directory) noexcept;
+
+} // namespace fl::filesystem::detail

@@ -1,0 +1,165 @@
+#include "locale_data/rows.hpp"
+#include "platform/platform.hpp"
+#include "support/temp_tree.hpp"
+
+#include <fl/filesystem/directory_iterator.hpp>
+#include <fl/filesystem/exceptions.hpp>
+#include <fl/i18n/string_conversion.hpp>
+
+#include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <set>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "support/platform_double.hpp"
+
+using namespace fl::filesystem;
+using namespace fl::i18n;
+namespace stdfs = std::filesystem;
+using names = std::multiset<ustring>;
+static_assert(std::input_iterator<upath_directory_iterator>);
+
+/// On a system whose volumes have the properties that a test gives them.
+struct DirectoryIteratorTest : testing::Test, fl::testing::platform_double {
+    int volume_flags(std::string const& path, std::uint32_t& result) const override {
+        EXPECT_EQ(path, tree.root());
+        return result = flags, error;
+    }
+    static names shown(auto const&... arguments) {
+        names result;
+        for (upath_directory_entry const& entry : upath_directory_iterator(arguments...))
+            result.insert(entry.filename());
+        return result;
+    }
+    /// What refuses the arguments: a sentence, or the id and the path below the root.
+    std::string refusal(auto const&... arguments) const try {
+        return std::to_string(shown(arguments...).size());
+    } catch (InvalidArgument const& e) {
+        return e.message();
+    } catch (FsysExceptionBase const& e) {
+        return e.id().substr(14) + (e.path().empty() ? "" : e.path().substr(tree.root().string().size()));
+    }
+    std::uint32_t flags = 0;
+    int error = 0;
+    fl::testing::temp_tree tree;
+    ustring root = tree.root().u16string();
+    kestrune_pattern_string_generator by_wildcard;
+};
+
+TEST_F(DirectoryIteratorTest, ShowsEveryNameOnce) {
+    names expected;
+    for (std::string const& name :
+         std::vector<std::string>{"a", "\xC3\xA9", "\xF0\x9F\x98\x80", "bad\xFF", "bad\xFE", "\xE2\x82",
+                                  "a\nb", "...", "a\\b", "*", std::string(255, '\r')})
+        tree.file(name), expected.insert(utf8_to_ustring(name));
+    EXPECT_EQ(shown(upath(root + u"//")), expected);
+    EXPECT_EQ(shown(root, by_wildcard(u"*")), expected);
+    EXPECT_EQ(shown(root, by_wildcard(u"bad\uFFFD")), (names{u"bad\uFFFD", u"bad\uFFFD"}));
+    EXPECT_EQ(shown(root, by_wildcard(u".*"), initialization_mode(2), true), (names{u".", u"..", u"..."}));
+    expected.insert({u".", u".."});
+    stdfs::path const former = stdfs::current_path();
+    stdfs::current_path(tree.root());
+    EXPECT_EQ(shown(u"", initialization_mode::none, true), expected);
+    stdfs::current_path(former);
+}
+
+TEST_F(DirectoryIteratorTest, WildcardsFollowTheVolume) {
+    std::string const slow(250, '\r');
+    for (auto const& [name, wildcard, finding] :
+         rows<3>("a.txt *.TXT 1,3,17,  a.txt a*t 0,1,2,3,16,17,  caf\u00E9 *\u00E9 0,1,2,3,16,17,  bad\xFF "
+                 "B*\uFFFD 1,3,17,  "
+                 "caf\u00E9 cafe\u0301* 2,3,16,17,  e\u0301t\u00E9 \u00E9t* 2,3,16,17,  e\u0301t\u00E9 "
+                 "\u00C9T*\u0301 3,  "
+                 "xslow *x*\uFFFD ~  slow *sl* 0,1,2,3,16,17,")) {
+        std::string const own = name.ends_with("slow") ? slow + name : name;
+        tree.file(own);
+        for (std::uint32_t const volume : {0u, 1u, 2u, 3u, 16u, 17u}) {
+            bool const is_found =
+                ("," + finding).find("," + std::to_string(flags = volume) + ",") != finding.npos;
+            EXPECT_EQ(shown(root, by_wildcard(utf8_to_ustring(wildcard))).size(), is_found)
+                << name << ' ' << volume;
+        }
+        stdfs::remove(tree.root() / own);
+    }
+    tree.file(slow);
+    EXPECT_EQ(shown(root, pattern_string_context(u"*", u"^(.|\\r)*a|(.|\\r)*b$")), names{}) << "given up";
+    EXPECT_EQ(shown(root, pattern_string_context(u"*", u"\\s+")).size(), 1);
+}
+
+TEST_F(DirectoryIteratorTest, Refusals) {
+    tree.file("file");
+    EXPECT_EQ(refusal(root + u"/no"), "PathNotFound/no");
+    EXPECT_EQ(refusal(root + u"/no", by_wildcard(u"*a")), "PathNotFound/no/^(.|\\r)*a$");
+    EXPECT_EQ(refusal(upath(root + u"/file")), "NotDirectoryError/file");
+    EXPECT_EQ(refusal(root + u"/" + ustring(256, u'a')), "FileNameTooLarge/" + std::string(256, 'a'));
+    EXPECT_THROW(upath_directory_iterator(u"/\xD800"), fl::filesystem::CvtInvalidCharacter);
+    EXPECT_THROW(upath_directory_iterator(ustring(u"/\0a", 3)), InvalidArgument);
+    for (auto const& context : {pattern_string_context(u"", u"^a$"), pattern_string_context(u"a", u"")})
+        EXPECT_EQ(refusal(root, context), "Empty file name or pattern string context");
+    EXPECT_EQ(refusal(root, by_wildcard(u"a/b")), "Found invalid character in the file name");
+    pattern_string_context const bad(u"a", u"(a");
+    EXPECT_EQ(refusal(root, bad, initialization_mode(2)), "Pattern matching object can not be created");
+    EXPECT_EQ(refusal(root, bad, initialization_mode(3)), "0");
+    EXPECT_EQ(refusal(root + u"/no", bad), "PathNotFound/no/(a");
+    error = EACCES;
+    EXPECT_EQ(refusal(root), "AccessDenied");
+}
+
+TEST_F(DirectoryIteratorTest, EntriesTellWhatTheDiskSays) {
+    tree.file("regular"), tree.file("directory/child"), ::mkfifo((tree.root() / "fifo").c_str(), 0600);
+    for (auto const& [name, target] :
+         rows<2>("to_file regular  to_directory directory  dangling no  loop loop"))
+        stdfs::create_symlink(target, tree.root() / name);
+    auto const check = [&](upath_directory_entry const& entry) {
+        SCOPED_TRACE(ustring_to_utf8(entry.filename()));
+        EXPECT_EQ(entry.full_pathname(), root + u"/" + entry.filename());
+        EXPECT_EQ(entry.pathname() + entry.alternative_filename(), root);
+        EXPECT_EQ(entry.type(), symlink_status(entry.full_pathname()).kind());
+        EXPECT_EQ(entry.symlink_status().kind(), entry.type());
+        try {
+            std::uint32_t const expected = status(entry.full_pathname()).kind();
+            EXPECT_EQ(entry.status().kind(), expected);
+            EXPECT_EQ(entry.target_type(), expected);
+            EXPECT_EQ(entry.target_type_without_validation(), expected);
+        } catch (SystemError const&) {
+            EXPECT_EQ(entry.filename(), u"loop");
+        }
+    };
+    std::vector<upath_directory_entry> kept;
+    for (upath_directory_entry const& entry : upath_directory_iterator(root))
+        check(entry), kept.push_back(entry.snapshot());
+    EXPECT_EQ(kept.size(), 7);
+    for (upath_directory_entry const& entry : kept) {
+        check(entry); // now by path
+        stdfs::remove_all(tree.root() / entry.filename());
+        EXPECT_EQ(entry.status().kind(), file_status::file_not_found);
+    }
+}
+
+TEST_F(DirectoryIteratorTest, CopiesShareThePositionAndSnapshotsDoNot) {
+    tree.file("a"), tree.file("b");
+    upath_directory_iterator i(root), copy = i, end;
+    upath_directory_entry const entry = *i;
+    ustring const first = i->filename();
+    EXPECT_EQ((*i++).filename(), first);
+    EXPECT_TRUE(entry.filename() != first && entry.filename() == copy->filename());
+    EXPECT_TRUE(i == copy && i != upath_directory_iterator(root) && i != end);
+    EXPECT_EQ(++copy, end);
+    EXPECT_THROW(++i, InvalidArgument);
+    EXPECT_THROW(*end, InvalidArgument);
+}
+
+TEST_F(DirectoryIteratorTest, AReadErrorIsThrownOnceAndIsTheEnd) {
+    for (int i = 0; i < 300; ++i) // more than is read ahead
+        tree.file(std::string(250, 'n') + std::to_string(i));
+    upath_directory_iterator i(root);
+    int const null = ::open("/dev/null", O_RDONLY | O_CLOEXEC);
+    for (auto const& open : stdfs::directory_iterator("/proc/self/fd"))
+        if (std::error_code ignored; stdfs::read_symlink(open, ignored) == tree.root())
+            ::dup2(null, std::stoi(open.path().filename()));
+    ::close(null);
+    EXPECT_THROW(while (i->type() != 0)++ i, NotDirectoryError);
+    EXPECT_EQ(i, upath_directory_iterator());
+}

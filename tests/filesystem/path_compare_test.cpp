@@ -1,0 +1,96 @@
+#include "filesystem/name_comparison.hpp"
+#include "locale_data/rows.hpp"
+#include "platform/platform.hpp"
+#include "support/temp_tree.hpp"
+
+#include <fl/filesystem/exceptions.hpp>
+#include <fl/filesystem/path_compare.hpp>
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+
+#include "support/platform_double.hpp"
+
+using namespace fl::filesystem;
+
+/// A system whose volumes have the properties that a test gives them.
+struct PathCompareTest : testing::Test, fl::testing::platform_double {
+    int volume_flags(std::string const& path, std::uint32_t& result) const override {
+        return asked = path, result = flags, error;
+    }
+    std::uint32_t flags = 0;
+    int error = 0;
+    mutable std::string asked = "none";
+};
+
+/// The order as a sign, or the sign of the sentence of an `InvalidArgument`.
+static char outcome(auto const&... arguments) try {
+    return "<=>"[1 + std::clamp(compare(arguments...), -1, 1)];
+} catch (InvalidArgument const& failure) {
+    std::string_view const sentences[] = {"Specified character handling mask not valid",
+                                          "Invalid mask specified", "Path must be absolute"};
+    return "?!/:"[std::find(sentences, sentences + 3, failure.message()) - sentences];
+}
+
+TEST_F(PathCompareTest, FollowsTheMask) {
+    unsigned const masks[] = {0, 1, 2, 3, 4, 6, 7, 8, 9, 16, 17, 18};
+    for (
+        auto const& [a_bytes, b_bytes, outcomes] : rows<3>(
+            "~ ~ ============  x ~ >>>>>>>>>>>>  ab abc <<<<?<<?<<<!  ab ABC ><><?><?<><!  A a <=<=?<=?=<=!"
+            " stra\u00DFe STRASSE >=>=?>=?=>=!  a//b a/b <<<<?<<?<<<!  \uFFFD \U0001F600 >>>>?>>?>>>!"
+            " \u00E9 e\u0301 >>==?==?>==!  \u00C9 e\u0301 >><=?<=?><=!  K \u212A <===?==?===!"
+            // Of two lengths, up to 19 units of ASCII are told from the longer name by units, not by letters.
+            " b \u00E1 <<>>?>>?<>>!  bbbbbbbbbbbbbbbbbbb \u00E1bbbbbbbbbbbbbbbbbbb <<<>?<>?<<>!"
+            " bbbbbbbbbbbbbbbbbbbb \u00E1bbbbbbbbbbbbbbbbbbbb <<>>?>>?<>>!")) {
+        fl::ustring const a = detail::from_filesystem(a_bytes), b = detail::from_filesystem(b_bytes);
+        std::string by_text, by_path;
+        for (unsigned const mask : masks) {
+            by_text += outcome(a, b, mask);
+            by_path += "=><?!"[std::string_view("=<>?!").find(outcome(upath(b), upath(a), mask))];
+        }
+        EXPECT_EQ(by_text, outcomes) << a_bytes << " " << b_bytes;
+        EXPECT_EQ(by_path, outcomes) << b_bytes << " " << a_bytes;
+        for (std::uint32_t const volume : {0u, 1u, 2u, 3u, 16u, 17u}) {
+            flags = volume;
+            EXPECT_EQ(outcome(upath(u"/" + a), upath(u"/" + b)), outcome(u"/" + a, u"/" + b, volume))
+                << a_bytes;
+        }
+    }
+    std::u16string_view const endless(u"x", std::size_t{1} << 31); // refused unread
+    for (unsigned const mask : {0u, 1u, 2u, 3u})
+        EXPECT_THROW(detail::compare_names(u"x", endless, mask), FileNameTooLarge) << mask;
+    EXPECT_EQ(outcome(u"x\xD800", u"x\xD800", 17u), '=');
+}
+
+TEST_F(PathCompareTest, AsksTheVolumeOfTheFirstOfTwoAbsoluteNames) {
+    for (auto const& [a, b, expected] :
+         rows<3>("~ ~ =  /a ~ >  ~ /a <  a /a /  /a a /  a ~ /  ~ a /  // / =  /a//b/ /a/b ="))
+        EXPECT_EQ(outcome(detail::from_filesystem(a), detail::from_filesystem(b)), expected[0])
+            << a << " " << b;
+    EXPECT_EQ(std::exchange(asked, "none"), "/a/b");
+    EXPECT_EQ(outcome(upath(u"/a"), upath()), '>');
+    EXPECT_EQ(asked, "none");
+    EXPECT_EQ(outcome(upath(u"/\u00E9//b"), upath(u"/\u00E9/b")), '<');
+    error = EACCES;
+    EXPECT_THROW(compare(u"/a", u"/a"), AccessDenied);
+    EXPECT_THROW(compare(u"/\xDC00", u"/a"), CvtInvalidCharacter);
+    EXPECT_THROW(generate_character_handling_mask_from_volume(upath()), InvalidArgument);
+}
+
+TEST_F(PathCompareTest, RulesWidenDecomposedNamesAndDropUnknownFlags) {
+    for (flags = 0; flags < 64; ++flags) {
+        auto const mask = generate_character_handling_mask_from_volume(upath(u"/x")).mask();
+        EXPECT_EQ(mask, (flags & 17) + (flags & 2) * 3) << flags;
+    }
+}
+
+TEST(PathFromVolume, IsTheNameOnDisk) {
+    fl::testing::temp_tree const tree;
+    std::filesystem::create_symlink(tree.file("real/caf\xC3\xA9"), tree.root() / "link");
+    auto const real = tree.text(u"real/caf\u00E9");
+    EXPECT_EQ(get_pathname_from_volume(tree.text(u"real/..//link"), u""), real);
+    EXPECT_EQ(get_pathname_from_volume(upath(u"link"), upath(tree.text())).string(), real);
+    EXPECT_EQ(get_pathname_from_volume(u"", tree.text()), u"");
+    EXPECT_THROW(get_pathname_from_volume(u"missing", tree.text()), PathNotFound);
+}

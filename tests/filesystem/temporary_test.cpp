@@ -1,0 +1,130 @@
+#include "filesystem/random_token.hpp"
+#include "filesystem/temporary.hpp"
+#include "locale_data/rows.hpp"
+#include "support/failure.hpp"
+#include "support/temp_tree.hpp"
+
+#include <fl/filesystem/exceptions.hpp>
+#include <fl/filesystem/path.hpp>
+#include <fl/filesystem/temporary.hpp>
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <regex>
+#include <set>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace fl::filesystem;
+using fl::ustring;
+
+/// A tree of files of all kinds.
+struct TemporaryTest : testing::Test {
+    TemporaryTest() {
+        std::filesystem::create_directory(tree.root() / "a");
+        std::filesystem::create_symlink(tree.file("file", "precious"), tree.root() / "link");
+        std::filesystem::create_symlink(tree.root() / "missing", tree.root() / "dangling");
+        std::filesystem::create_symlink("loop", tree.root() / "loop");
+        EXPECT_EQ(::mkfifo((tree.root() / "pipe").c_str(), 0600), 0);
+    }
+
+    ~TemporaryTest() override {
+        for (auto const variable : {"OWN", "TMPDIR", "TMP", "TEMP"})
+            ::unsetenv(variable);
+    }
+
+    /// Opens with each of `tokens` in turn, and for ever with the last one.
+    std::FILE* open(std::vector<std::string> const& tokens, ustring const& prefix = u"") {
+        drawn = 0;
+        errno = ERANGE;
+        return detail::open_temporary(name, tree.text(u""), prefix, u"",
+                                      [&] { return tokens[std::min(drawn++, tokens.size() - 1)]; });
+    }
+    std::size_t drawn = 0;
+    ustring name = u"unchanged";
+    fl::testing::temp_tree const tree;
+};
+
+TEST_F(TemporaryTest, TenThousandNamesAreUnique) {
+    std::regex const token("[0-9a-f]{4}(-[0-9a-f]{4}){3}");
+    for (auto const& [dir, suffix, form] :
+         rows<3>("/d .log /d/p*.log  d log d/p*.log  /d//e// ~ /d/e/p*  / .. /p*..  ~ \u00E9 /p*.\u00E9")) {
+        ustring const made =
+            tmpfile_name(detail::from_filesystem(dir), u"p", detail::from_filesystem(suffix));
+        EXPECT_EQ(std::regex_replace(detail::to_filesystem(made), token, "*"), form);
+    }
+    std::set<ustring> names;
+    while (names.size() < 10'000)
+        ASSERT_TRUE(names.insert(tmpnam(u"/d", u"", u"")).second);
+    std::string (*const fail)() = [] { return throw std::runtime_error("no entropy"), std::string(); };
+    std::regex const uuid("[0-9a-f]{8}-[0-9a-f]{4}-4[0-9a-f]{3}-[89ab][0-9a-f]{3}-[0-9a-f]{12}");
+    EXPECT_TRUE(std::regex_match(detail::random_token(fail), uuid));
+    EXPECT_EQ(detail::random_token(fail, fail), "");
+}
+
+TEST_F(TemporaryTest, NothingThatExistsIsOpenedOrFollowed) {
+    std::FILE* const file = open({"file", "a", "link", "dangling", "loop", "pipe", "free", "other"});
+    ASSERT_NE(file, nullptr);
+    EXPECT_EQ(name, tree.text(u"free"));
+    EXPECT_TRUE(std::fputs("scratch", file) >= 0 && std::fclose(file) == 0);
+    EXPECT_EQ(std::filesystem::file_size(tree.root() / "file"), 8u);
+    EXPECT_FALSE(std::filesystem::exists(tree.root() / "missing"));
+}
+
+TEST_F(TemporaryTest, GivesUpAfterElevenTriesOrWithoutTokens) {
+    EXPECT_TRUE(!open({"file", ""}) && drawn == 2 && errno == 0 && name.empty()) << drawn;
+    for (ustring const& prefix :
+         {ustring(u"fil"), ustring(u"missing/"), ustring(300, u'n'), ustring(1, u'\0')})
+        EXPECT_TRUE(!open({"e"}, prefix) && drawn == 11 && errno == 0 && name.empty()) << drawn;
+}
+
+TEST_F(TemporaryTest, IsOpenForReadingAndWritingInTheDirectoryOfTheEnvironment) {
+    ASSERT_EQ(::setenv("TMPDIR", (tree.root() / "a//").c_str(), 1), 0);
+    EXPECT_TRUE(tmpnam(u"", u"p", u"").starts_with(tree.text(u"a/p")));
+    std::FILE* const file = tmpfile(name, u"", u"caf\u00E9", u"txt");
+    ASSERT_NE(file, nullptr);
+    EXPECT_TRUE(name.starts_with(tree.text(u"a/caf\u00E9")) && name.ends_with(u".txt"));
+    char text[] = "...";
+    EXPECT_GE(std::fputs("a\nb", file), 0);
+    std::rewind(file);
+    EXPECT_EQ(std::fread(text, 1, 3, file), 3u);
+    EXPECT_STREQ(text, "a\nb");
+    EXPECT_TRUE(std::fclose(file) == 0 &&
+                std::filesystem::file_size(detail::make_native_access_form(name)) == 3);
+}
+
+TEST_F(TemporaryTest, TheFirstUsableDirectoryOfTheEnvironmentServes) {
+    // Values of four variables, in the tree, "=" for one that is not set; the result likewise, "=" for /tmp.
+    char const* const variables[] = {"OWN", "TMPDIR", "TMP", "TEMP"};
+    for (auto const& row :
+         rows<5>("= = = = =  = a a/. = a  = = a a/. a  = = = a// a//  = ~ a = a  = file = = =  "
+                 "= file missing a a  = loop a = a  = \xFF pipe link =  a a/. = = a  file a = = a")) {
+        for (std::size_t i = 0; i < 4; ++i) {
+            std::string const value = row[i].empty() ? "" : tree.root() / row[i];
+            ASSERT_EQ(row[i] == "=" ? ::unsetenv(variables[i]) : ::setenv(variables[i], value.c_str(), 1), 0);
+        }
+        // All but the third are no names of variables.
+        ustring const found = temp_dir_name({"", std::string("TMPDIR\0", 7), "OWN", "TMP=X"});
+        EXPECT_EQ(found, row[4] == "=" ? u"/tmp" : tree.text(detail::from_filesystem(row[4])));
+    }
+    ASSERT_EQ(::setenv("TMPDIR", ("X=" + tree.root().string()).c_str(), 1), 0);
+    EXPECT_EQ(temp_dir_name({"TMPDIR=X"}), u"/tmp") << "a variable's value, not a variable";
+}
+
+TEST_F(TemporaryTest, WithoutAUsableDirectoryTheLastFailureIsTold) {
+    ustring const missing = tree.text(u"missing"), file = tree.text(u"file"), loop = tree.text(u"loop");
+    auto const last = [](auto... candidates) { detail::first_usable_directory({candidates...}); };
+    using fl::testing::failure;
+    EXPECT_EQ(failure<PathNotFound>(last, loop, file, missing), "fl:filesystem:PathNotFound");
+    EXPECT_EQ(failure<NotDirectoryError>(last, missing, loop, file), "fl:filesystem:NotDirectoryError");
+    EXPECT_EQ(failure<SystemError>(last, missing, file, loop), "fl:filesystem:SystemError");
+    EXPECT_EQ(failure<TempEnvNotSpecified>(last), "fl:filesystem:TempEnvNotSpecified");
+    std::filesystem::permissions(tree.root(), std::filesystem::perms(0755));
+    std::filesystem::permissions(tree.root() / "a", std::filesystem::perms(0555));
+    auto const is_denied = [&] { // to a process without the superuser's rights, if it can lay them down
+        bool const is_super = ::getuid() == 0 && ::setuid(65534) != 0;
+        return is_super || failure<AccessDenied>(last, tree.text(u"a")) == "fl:filesystem:AccessDenied";
+    };
+    EXPECT_EXIT(std::exit(is_denied() ? 0 : 1), testing::ExitedWithCode(0), "");
+}
