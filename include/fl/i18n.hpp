@@ -2,7 +2,8 @@
 /// Everything of `fl::i18n`. Each family has a header of its own below <fl/i18n/>, to include alone where compile
 /// time counts:
 ///
-/// - messages: message_catalog.hpp; the file of a resource for a locale: resource_finder.hpp
+/// - messages: message_catalog.hpp; the file of a resource for a locale: resource_finder.hpp; identifiers completed
+///   as they are typed: message_id_completion.hpp
 /// - start-up and changes of the global locale: startup.hpp; what came of it: locale_status.hpp
 /// - locales: locale.hpp; their names as text: locale_name.hpp; what is known of them: locale_database.hpp
 /// - text and bytes: string_conversion.hpp; a named encoding: codecvt.hpp, text in pieces: stream_codecvt.hpp, an
@@ -51,6 +52,7 @@
 #include <fl/i18n/locale_status.hpp>
 #include <fl/i18n/locale_tables.hpp>
 #include <fl/i18n/message_catalog.hpp>
+#include <fl/i18n/message_id_completion.hpp>
 #include <fl/i18n/natural_sort_exception.hpp>
 #include <fl/i18n/pattern_match.hpp>
 #include <fl/i18n/regex_exception.hpp>

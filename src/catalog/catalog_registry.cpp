@@ -2,7 +2,6 @@
 
 #include "support/raise.hpp"
 
-#include <fl/filesystem/file_status.hpp>
 #include <fl/filesystem/install_path.hpp>
 #include <fl/i18n/codecvt.hpp>
 #include <fl/i18n/message_catalog.hpp>
@@ -22,9 +21,8 @@ using handle = std::shared_ptr<MessageCatalog>;
 /// The "resources" directory below a root, or nothing if the root has none.
 std::optional<resource_location> find_resource_directory(ustring const& root) {
     try {
-        ustring const base = root.empty() ? root : filesystem::detail::make_native_form(root, 1);
-        upath path(filesystem::detail::concatenate_pathname(base, u"resources", 1));
-        if (filesystem::status(path).kind() == filesystem::file_status::directory_file)
+        upath path = resource_directory(root);
+        if (is_directory(path))
             return resource_location{std::move(path), false};
     } catch (std::exception const&) {
         // A root that cannot even be looked at is as good as absent: the other roots decide.

@@ -3,6 +3,7 @@
 
 #include <fl/filesystem/path.hpp>
 
+#include <algorithm>
 #include <atomic>
 #include <memory>
 #include <vector>
@@ -17,6 +18,13 @@ struct resource_location {
     bool operator==(resource_location const&) const = default;
 };
 
+/// Where the resources of a root lie: its native form and "resources". An empty root stands for the working
+/// directory.
+filesystem::upath resource_directory(ustring const& root);
+
+/// Whether a directory is there; throws what `filesystem::status` throws.
+bool is_directory(filesystem::upath const& path);
+
 /// The current list, readable without a lock. A change publishes a new vector; former vectors are kept, since
 /// a reader may still walk one: changes are rare and lists are short.
 class resource_locations {
@@ -25,10 +33,15 @@ public:
         return *current_.load(std::memory_order_acquire);
     }
 
-    /// Replaces the list. The caller holds `catalog_registry_mutex`.
+    /// Replaces the list. The caller holds `catalog_registry_mutex`. A list that was there before is taken up
+    /// again: an add-on that comes and goes costs no memory each time.
     void publish(std::vector<resource_location> list) {
-        versions_.push_back(std::make_unique<std::vector<resource_location> const>(std::move(list)));
-        current_.store(versions_.back().get(), std::memory_order_release);
+        auto version = std::find_if(versions_.begin(), versions_.end(),
+                                    [&](auto const& former) { return *former == list; });
+        if (version == versions_.end())
+            version = versions_.insert(
+                version, std::make_unique<std::vector<resource_location> const>(std::move(list)));
+        current_.store(version->get(), std::memory_order_release);
     }
 
 private:

@@ -141,6 +141,30 @@ public:
     /// The same for the classic locale, which is English.
     static ustring get_default_locale_message(idbase::BaseMsgID const& id);
 
+    /// Appends the directory "resources" of each root, in order, to the list of resource locations: behind all
+    /// others, so that what they hold is found only where no earlier location has a file of the same locale.
+    /// Catalogs that are loaded already stay as they are until they are flushed. All or nothing: throws
+    /// `MessageCatalogIncorrectRoot` if `roots` is empty or one of them has no such directory, and
+    /// `MessageCatalogNotInitialized` if no location was set before; then nothing has changed. A location may
+    /// stand in the list several times. Each new list is kept for the life of the process.
+    static void set_additional_resource_locations(std::vector<ustring> const& roots);
+
+    /// Takes a root that was added by `set_additional_resource_locations` out of the list again, however often
+    /// it was added, and flushes the catalogs whose English files lie below it, unless the same directory is in
+    /// the list from the start. Catalogs that callers hold stay valid.
+    ///
+    /// Throws `InvalidPathSupplied` for an empty root, `MessageCatalogNotInitialized`, `ResourcePathNotFound` if
+    /// it was not added, `ResDirNotPresent` if the directory has gone from the disk, and
+    /// `ResPathRemovalUnknownError` when the walk fails: on a component without an English directory, a
+    /// directory that cannot be read, a file whose name makes no catalog identifier. The location then stays,
+    /// though some of its catalogs may have been flushed, and the removal may be tried again. So a directory
+    /// such as ".git" or "lost+found" among the components keeps a location from being removed. Look-ups wait
+    /// until the walk has ended.
+    ///
+    /// Roots are compared as text, in native form: "/a/" is "/a", but "/a/." is another root. The empty root,
+    /// which may be added, cannot be removed.
+    static void remove_additional_resource_location(ustring const& root);
+
     /// Forgets a catalog in all locales, so that the next look-up reads its file again. Objects that callers
     /// hold stay valid. No error if the catalog is not loaded.
     static void FlushCatalogFromCache(CatalogID const& id);

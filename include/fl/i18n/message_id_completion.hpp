@@ -1,0 +1,93 @@
+/// @file
+/// Completion of message identifiers as a person types them.
+///
+/// Given the beginning of an identifier, lists what may follow: components first, then the further parts of
+/// catalog names, and at last the keys of the catalog.
+///
+///     fl::i18n::message_id_completions const found = fl::i18n::getMessageIdCompletions(u"shop:ca");
+///     // completions {"cart:", "catalogue:"}, position 5: each replaces the text from there on
+///
+/// Catalogs are known by an index beside the resources: for a location "root/resources" the files
+/// "root/derived/share/resources/<component>/.../catalog_map.xml". Such a file is XML in UTF-8: a root element
+/// `MessageCatalogMap` with elements `entry`, whose attribute "key" is a catalog identifier. Keys come from the
+/// catalog itself, in the global locale.
+#pragma once
+
+#include <fl/i18n/codecvt_ascii.hpp>
+#include <fl/i18n/expat_loader.hpp>
+#include <fl/i18n/export.hpp>
+#include <fl/i18n/ustring.hpp>
+
+#include <boost/shared_ptr.hpp>
+#include <boost/unordered_set.hpp>
+
+#include <cstdint>
+#include <deque>
+#include <vector>
+
+namespace fl::i18n {
+
+/// What may follow an input.
+struct message_id_completions {
+    /// In no particular order, and with repetitions where several catalogs begin alike; parts that need more
+    /// after them end in ":" and stand before keys, which do not.
+    std::vector<ustring> completions;
+    std::int32_t position = 0; ///< code unit of the input from which on a completion replaces it
+};
+
+/// The completions of `input`, which is compared without case behind its last colon and with case before it.
+/// Where nothing fits the list is empty and the position that of the input.
+///
+/// Never throws: when anything fails the list is empty and the position 0, as before the resource locations are
+/// set, or for a letter outside ASCII before the last colon (behind it only where the catalog exists). Reads the
+/// disk at every call. Thread-safe.
+FL_I18N_EXPORT message_id_completions getMessageIdCompletions(ustring const& input);
+
+/// Collects the keys of map files. One object reads several files, one after the other, up to the first that it
+/// refuses (an element out of place, a key that is not ASCII) or that breaks off inside its root element: what
+/// stands before that counts, and nothing behind it, further files included.
+class FL_I18N_EXPORT MetaInfoExpatEventHandler : public ExpatEventHandler {
+public:
+    /// `head` is kept for the record and decides nothing. `keys` receives the keys, widened; shared with the caller.
+    MetaInfoExpatEventHandler(ustring const& head,
+                              boost::shared_ptr<boost::unordered::unordered_set<ustring>> keys);
+    ~MetaInfoExpatEventHandler() override;
+
+    /// Start tags by element: each returns whether the element may stand here. `attributes` alternates names
+    /// and values and ends in a null pointer.
+    ///
+    /// In an `entry` only "key" is known to have a value; behind any other name the next item is taken for a
+    /// name again.
+    /// @{
+    bool process_root(char const** attributes);
+    bool process_entry_tag(char const** attributes);
+    /// @}
+
+    bool doElementStart(char const* name, char const** attributes) override;
+    bool doElementData(char const* data, int length) override;
+    bool doElementEnd(char const* name) override;
+
+private:
+    enum state : int { map_in_root = 0, map_in_entry = 1, map_start = 2 };
+
+    ustring head_;
+    boost::shared_ptr<boost::unordered::unordered_set<ustring>> keys_;
+    std::deque<int> states_{map_start};
+    codecvt_ascii_to_ustring widen_{false};
+};
+
+namespace UnitTest {
+
+/// Moves the index of catalogs for a test: `mapPath` takes the place of "../derived/share/resources/" relative
+/// to a resource location; empty means the location itself, as it does after the object has gone. Not while
+/// another thread completes.
+class FL_I18N_EXPORT MsgCatTabComplTestHelper {
+public:
+    explicit MsgCatTabComplTestHelper(ustring const& mapPath);
+    ~MsgCatTabComplTestHelper();
+    MsgCatTabComplTestHelper(MsgCatTabComplTestHelper const&) = delete;
+    MsgCatTabComplTestHelper& operator=(MsgCatTabComplTestHelper const&) = delete;
+};
+
+} // namespace UnitTest
+} // namespace fl::i18n
