@@ -1,6 +1,7 @@
 #include "catalog_bench.hpp"
 #include "comparison.hpp"
 #include "conversion_bench.hpp"
+#include "date_time_bench.hpp"
 #include "directory_bench.hpp"
 #include "stream_bench.hpp"
 #include "text_bench.hpp"
@@ -36,6 +37,7 @@ int main(int argc, char** argv) try {
         return 2;
     bench::register_catalog_benchmarks();
     bench::register_conversion_benchmarks();
+    bench::register_date_time_benchmarks();
     bench::register_directory_benchmarks();
     bench::register_stream_benchmarks();
     bench::register_text_benchmarks();

@@ -8,7 +8,7 @@ debian_packages=(
     g++ cmake ninja-build ccache pkg-config
     libicu-dev libexpat1-dev
     libboost1.81-dev libboost-thread1.81-dev libboost-filesystem1.81-dev
-    libgtest-dev libbenchmark-dev locales
+    libgtest-dev libbenchmark-dev locales tzdata
 )
 brew_formulas=(cmake ninja ccache pkg-config icu4c expat boost googletest google-benchmark)
 

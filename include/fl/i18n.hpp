@@ -11,6 +11,7 @@
 /// - environment variables: environment.hpp
 /// - characters: character_class.hpp, code_points.hpp, scan.hpp
 /// - text: transform.hpp, compare.hpp, find.hpp, trim.hpp, cstring.hpp; regular expressions: pattern_match.hpp
+/// - times as text: date_time.hpp; in time zones: time_zone.hpp; `char16_t` streams: std_locale.hpp
 #pragma once
 
 #include <fl/i18n/catalog_id.hpp>
@@ -30,6 +31,7 @@
 #include <fl/i18n/ctype_exception.hpp>
 #include <fl/i18n/cvt_ctx.hpp>
 #include <fl/i18n/cvt_exception.hpp>
+#include <fl/i18n/date_time.hpp>
 #include <fl/i18n/discovery_record.hpp>
 #include <fl/i18n/environment.hpp>
 #include <fl/i18n/expat_loader.hpp>
@@ -61,8 +63,10 @@
 #include <fl/i18n/scan.hpp>
 #include <fl/i18n/simple_pattern_match.hpp>
 #include <fl/i18n/startup.hpp>
+#include <fl/i18n/std_locale.hpp>
 #include <fl/i18n/stream_codecvt.hpp>
 #include <fl/i18n/string_conversion.hpp>
+#include <fl/i18n/time_zone.hpp>
 #include <fl/i18n/transform.hpp>
 #include <fl/i18n/trim.hpp>
 #include <fl/i18n/ustring.hpp>

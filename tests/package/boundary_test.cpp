@@ -9,6 +9,7 @@
 #include <boost/exception_ptr.hpp>
 #include <gtest/gtest.h>
 
+#include <sstream>
 #include <string>
 
 namespace {
@@ -38,6 +39,8 @@ TEST(Boundary, ExceptionsAreCaughtByTheirClass) {
         {"Invalid encoding name specified.", failure<CvtInvalidEncodingName>([] {
              codecvt_ustring_to_string const converter("no-such-encoding", true);
          })},
+        {"fl::i18n::timezone::invalid_timezone_id",
+         failure<time_zone::invalid_timezone_id>([] { time_zone::timezone const zone("No/SuchZone"); })},
         {"fl:filesystem:PathNotFound",
          failure<fl::filesystem::PathNotFound>([] { fl::filesystem::canonical(u"/no/such/file", u""); })},
     };
@@ -54,6 +57,13 @@ TEST(Boundary, ExceptionsTravelInExceptionPointers) {
     }
     EXPECT_EQ("Bad Catalog ID",
               failure<CatalogID::badCatalogIDException>([&] { boost::rethrow_exception(pointer); }));
+}
+
+TEST(Boundary, FacetsAreFoundFromOutside) {
+    std::basic_ostringstream<char16_t> stream;
+    stream.imbue(facet::get_global_std_locale());
+    stream << 1234.5 << std::boolalpha << true;
+    EXPECT_EQ(u"1234.5true", stream.str());
 }
 
 } // namespace

@@ -1,0 +1,58 @@
+#include "date_time/timezone_access.hpp"
+#include "date_time/unix_epoch.hpp"
+#include "support/raise.hpp"
+
+namespace fl::i18n::time_zone {
+
+namespace {
+
+using detail::ticks_per_second;
+
+constexpr std::int64_t ms_per_second = 1000;
+constexpr std::int64_t ticks_per_ms = ticks_per_second / ms_per_second;
+
+[[noreturn]] void refuse_time() {
+    support::raise(invalid_time_data());
+}
+
+/// The zone's offset from UTC in milliseconds at a date, which is the zone's own clock's if `is_local`.
+std::int64_t offset_at(UDate date, bool is_local, timezone const& zone) {
+    std::int32_t raw = 0;
+    std::int32_t dst = 0;
+    UErrorCode status = U_ZERO_ERROR;
+    timezone_access::icu(zone).getOffset(date, is_local, raw, dst, status);
+    if (U_FAILURE(status))
+        refuse_time();
+    return std::int64_t{raw} + (timezone_access::ignore_dst(zone) ? 0 : dst);
+}
+
+std::int64_t whole_milliseconds(double ms) {
+    if (!(-0x1p63 < ms && ms < 0x1p63))
+        refuse_time();
+    return static_cast<std::int64_t>(ms);
+}
+
+/// ICU gets whole seconds; the fraction goes by it, and is negative before the epoch.
+template <bool ToUtc>
+ptime convert(ptime const& time, timezone const& zone) {
+    std::int64_t const ticks = detail::ticks_since_epoch(time);
+    std::int64_t const seconds = ticks / ticks_per_second;
+    auto const date = static_cast<UDate>(seconds * ms_per_second);
+    std::int64_t const offset = offset_at(date, ToUtc, zone);
+    std::int64_t const shifted = whole_milliseconds(date + static_cast<double>(ToUtc ? -offset : offset));
+    std::int64_t const fraction = ticks - seconds * ticks_per_second;
+    return detail::time_since_epoch(
+        detail::wrapping_add(fraction, detail::wrapping_multiply(shifted, ticks_per_ms)));
+}
+
+} // namespace
+
+ptime to_utc(ptime const& local, timezone const& zone) {
+    return convert<true>(local, zone);
+}
+
+ptime from_utc(ptime const& utc, timezone const& zone) {
+    return convert<false>(utc, zone);
+}
+
+} // namespace fl::i18n::time_zone
