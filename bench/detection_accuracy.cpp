@@ -1,12 +1,12 @@
-// How often is the encoding of a list of names found? Prints Markdown tables: `detect_charset` beside the first guess
-// of ICU's detector, on the names of countries and languages in many languages and encodings, by length.
-// bench/README.md keeps and explains the result.
+// How often is the encoding of a list of names found? Prints Markdown tables: `detect_charset` beside the
+// first guess of ICU's detector, on the names of countries and languages in many languages and encodings, by
+// length. bench/README.md keeps and explains the result.
 //
 //     fl_i18n_detection_accuracy
 //
-// An answer counts as right if the bytes, read in that encoding, are the text again: many texts are the same bytes
-// in several encodings. Start-up is not run, so that the system's encoding is US-ASCII on every machine, which is
-// right for none of these texts.
+// An answer counts as right if the bytes, read in that encoding, are the text again: many texts are the same
+// bytes in several encodings. Start-up is not run, so that the system's encoding is US-ASCII on every
+// machine, which is right for none of these texts.
 
 #include "display_names.hpp"
 #include "icu_detection.hpp"

@@ -22,7 +22,7 @@ class tree {
 public:
     tree() {
         std::string name = (stdfs::temp_directory_path() / "fl_i18n_bench_XXXXXX").string();
-        root_ = stdfs::path(mkdtemp(name.data()));
+        root_ = stdfs::canonical(mkdtemp(name.data()) ? name : ""); // no directory: throws
         for (int i = 0; i < 12; ++i)
             for (int j = 0; j < 12; ++j)
                 fill(root_ / ("project " + std::to_string(i)) / ("part " + std::to_string(j)), 40);

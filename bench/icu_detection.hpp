@@ -10,7 +10,8 @@
 
 namespace bench {
 
-/// ICU's first guess at the encoding of a text. The confidences, 0 to 100, are 0 for a guess that there is not.
+/// ICU's first guess at the encoding of a text. The confidences, 0 to 100, are 0 for a guess that there is
+/// not.
 struct icu_guess {
     std::string encoding;
     int confidence = 0;

@@ -1,8 +1,8 @@
 // What start-up costs a program: whole processes, measured from outside, beside one that only calls
 // `setlocale(LC_ALL, "")`; and where that time goes, measured in fresh processes from inside.
 //
-// The limit is for the processor time of a process: on a machine that does other things too, the time on the clock
-// says more about those. Start-up waits for nothing but files that are in memory after the first round.
+// The limit is for the processor time of a process: on a machine that does other things too, the time on the
+// clock says more about those. Start-up waits for nothing but files that are in memory after the first round.
 //
 //     fl_i18n_startup_bench            measures; exit code 1 if the limit is exceeded
 //     fl_i18n_startup_bench STEP       is one of the processes measured
@@ -16,6 +16,7 @@
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 #include <spawn.h>
 #include <stdexcept>
 #include <string>
@@ -78,9 +79,12 @@ void measure_startup() {
 }
 
 void measure_parts() {
+    char const* const database_path = std::getenv("QNLOCALE_LCDATA_PATH");
+    if (database_path == nullptr)
+        throw std::runtime_error("QNLOCALE_LCDATA_PATH is not set");
     std::unique_ptr<lcmgmt::locale_database> database;
     std::printf("%f ", milliseconds([&] { database = std::make_unique<lcmgmt::locale_database>(); }));
-    fl::filesystem::native_path const file(std::string(std::getenv("QNLOCALE_LCDATA_PATH")) + "/lcdata.xml");
+    fl::filesystem::native_path const file(std::string(database_path) + "/lcdata.xml");
     std::printf("%f ", milliseconds([&] { lcmgmt::parseLcData(*database, file); }));
     QnLocaleImpl locale(*database);
     lcmgmt::LcStatusCtx status;
@@ -96,6 +100,8 @@ std::array<double, Count> breakdown(std::string const& program, std::string cons
     std::array<std::vector<double>, Count> values;
     for (int round = 0; round < rounds; ++round) {
         FILE* const output = popen(("'" + program + "' " + step).c_str(), "r");
+        if (output == nullptr)
+            throw std::runtime_error("can't run " + program);
         for (auto& list : values)
             if (double value = 0; std::fscanf(output, "%lf", &value) == 1)
                 list.push_back(value);

@@ -106,8 +106,8 @@ bool has(std::string const& encoding, fl::ustring const& text) {
     }
 }
 
-/// Real text of exactly `size` units: country names in a language, those that the encoding has, repeated. What it
-/// lacks the library would write as references, which ICU's bare calls do not.
+/// Real text of exactly `size` units: country names in a language, those that the encoding has, repeated.
+/// What it lacks the library would write as references, which ICU's bare calls do not.
 fl::ustring real_text(std::string const& encoding, std::string const& language, std::size_t size) {
     fl::ustring names;
     for (demo::message const& country : demo::country_names(language))

@@ -1,5 +1,6 @@
-// Starts the library for several users, and shows what it made of each: a process for a German, for somebody who
-// wants no locale, and for somebody who has none. Checks every answer, and exits with a non-zero code if one is wrong.
+// Starts the library for several users, and shows what it made of each: a process for a German, for somebody
+// who wants no locale, and for somebody who has none. Checks every answer, and exits with a non-zero code if
+// one is wrong.
 //
 //     show_startup          starts a process for each user
 //     show_startup NUMBER   is the process of one user

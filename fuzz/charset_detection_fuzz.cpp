@@ -1,4 +1,5 @@
-// Any bytes get an encoding: the system's, or one that ICU has a converter for; UTF-8, and ASCII, get "UTF-8".
+// Any bytes get an encoding: the system's, or one that ICU has a converter for; UTF-8, and ASCII, get
+// "UTF-8".
 
 #include "fuzz.hpp"
 

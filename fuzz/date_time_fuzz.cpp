@@ -1,5 +1,6 @@
-// Any ASCII as a time, by the named formats, by a few format strings and by the input's own: reading gives a time
-// or one of the exceptions of the interface; what is read in a named format renders and reads again to the same.
+// Any ASCII as a time, by the named formats, by a few format strings and by the input's own: reading gives a
+// time or one of the exceptions of the interface; what is read in a named format renders and reads again to
+// the same.
 
 #include "fuzz.hpp"
 

@@ -1,5 +1,5 @@
-// Any text in any pieces, with any room: a stream gives what it gives for the text as one piece, and fails as it
-// does. The first bytes of the input choose encoding, class, strictness, sizes of pieces and room.
+// Any text in any pieces, with any room: a stream gives what it gives for the text as one piece, and fails as
+// it does. The first bytes of the input choose encoding, class, strictness, sizes of pieces and room.
 
 #include "fuzz.hpp"
 
@@ -61,7 +61,8 @@ outcome<To> streamed(stream_converter<To, From> const& cvt, std::basic_string_vi
             text.remove_prefix(size);
         }
     } catch (CvtExceptionBase const& failure) {
-        // From bytes to bytes the reader runs ahead, so which of two faults is met first depends on the pieces.
+        // From bytes to bytes the reader runs ahead, so which of two faults is met first depends on the
+        // pieces.
         result.failure = sizeof(To) == sizeof(From) ? 1 : failure.kind();
         result.text.clear(); // how much was written before depends on the pieces
     }

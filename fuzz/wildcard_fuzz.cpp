@@ -1,5 +1,5 @@
-// Any name with any wildcard: the iterator's own matcher, and the expression that it gives to ICU in its place,
-// say what the wildcard's regular expression says.
+// Any name with any wildcard: the iterator's own matcher, and the expression that it gives to ICU in its
+// place, say what the wildcard's regular expression says.
 
 #include "filesystem/directory/wildcard.hpp"
 #include "fuzz.hpp"

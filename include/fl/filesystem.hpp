@@ -1,6 +1,6 @@
 /// @file
-/// Everything of `fl::filesystem`. Each family has a header of its own below <fl/filesystem/>, to include alone
-/// where compile time counts:
+/// Everything of `fl::filesystem`. Each family has a header of its own below <fl/filesystem/>, to include
+/// alone where compile time counts:
 ///
 /// - paths as text: path.hpp; what the disk says about them: file_status.hpp
 /// - opening files: file.hpp; names and bytes: codecvt.hpp

@@ -1,16 +1,17 @@
 /// @file
-/// Everything of `fl::i18n`. Each family has a header of its own below <fl/i18n/>, to include alone where compile
-/// time counts:
+/// Everything of `fl::i18n`. Each family has a header of its own below <fl/i18n/>, to include alone where
+/// compile time counts:
 ///
-/// - messages: message_catalog.hpp; the file of a resource for a locale: resource_finder.hpp; identifiers completed
-///   as they are typed: message_id_completion.hpp
+/// - messages: message_catalog.hpp; the file of a resource for a locale: resource_finder.hpp; identifiers
+///   completed as they are typed: message_id_completion.hpp
 /// - start-up and changes of the global locale: startup.hpp; what came of it: locale_status.hpp
 /// - locales: locale.hpp; their names as text: locale_name.hpp; what is known of them: locale_database.hpp
-/// - text and bytes: string_conversion.hpp; a named encoding: codecvt.hpp, text in pieces: stream_codecvt.hpp, an
-///   unknown encoding: charset_detection.hpp
+/// - text and bytes: string_conversion.hpp; a named encoding: codecvt.hpp, text in pieces:
+///   stream_codecvt.hpp, an unknown encoding: charset_detection.hpp
 /// - environment variables: environment.hpp
 /// - characters: character_class.hpp, code_points.hpp, scan.hpp
-/// - text: transform.hpp, compare.hpp, find.hpp, trim.hpp, cstring.hpp; regular expressions: pattern_match.hpp
+/// - text: transform.hpp, compare.hpp, find.hpp, trim.hpp, cstring.hpp; regular expressions:
+///   pattern_match.hpp
 /// - times as text: date_time.hpp; in time zones: time_zone.hpp; `char16_t` streams: std_locale.hpp
 #pragma once
 

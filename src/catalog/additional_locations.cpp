@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <optional>
 
 namespace fl::i18n {
 
@@ -17,13 +18,8 @@ using filesystem::upath;
 using location_list = std::vector<resource_location>;
 
 resource_location additional_location(ustring const& root) {
-    try {
-        upath path = resource_directory(root);
-        if (is_directory(path))
-            return {std::move(path), true};
-    } catch (std::exception const&) {
-        // A root that cannot be looked at is refused like one that is not there.
-    }
+    if (std::optional<resource_location> location = find_resource_directory(root, true))
+        return std::move(*location);
     support::raise(MessageCatalog::MessageCatalogIncorrectRoot());
 }
 
@@ -31,17 +27,9 @@ bool contains(location_list const& list, upath const& path, bool additional) {
     return std::find(list.begin(), list.end(), resource_location{path, additional}) != list.end();
 }
 
-bool is_present(upath const& path) {
-    try {
-        return is_directory(path);
-    } catch (std::exception const&) {
-        return false;
-    }
-}
-
 /// Only by their English files are the catalogs of a location known: each has one.
 void flush_catalogs_of(upath const& location) {
-    if (!is_present(location))
+    if (!is_directory(location))
         support::raise(MessageCatalog::ResDirNotPresent());
     try {
         scan_catalogs(location, [](std::string const& catalog) {

@@ -26,14 +26,21 @@ catalog_cache::handle catalog_cache::peek(std::string const& key) const {
     return place == entries_.end() ? nullptr : place->second.catalog;
 }
 
-void catalog_cache::insert(std::string const& key, handle catalog) {
+std::uint64_t catalog_cache::flush_count() const {
     std::lock_guard const lock(mutex_);
-    entries_.emplace(key, entry{std::move(catalog)});
+    return flush_count_;
+}
+
+void catalog_cache::insert(std::string const& key, handle catalog, std::uint64_t count) {
+    std::lock_guard const lock(mutex_);
+    if (count == flush_count_)
+        entries_.emplace(key, entry{std::move(catalog)});
 }
 
 void catalog_cache::flush(std::string_view catalog) {
     std::vector<handle> dropped; // destroyed behind the lock: freeing a catalog takes a while
     std::lock_guard const lock(mutex_);
+    ++flush_count_;
     for (auto place = entries_.begin(); place != entries_.end();) {
         std::size_t const colon = place->first.rfind(':');
         if (colon != std::string::npos && std::string_view(place->first).substr(0, colon) == catalog) {

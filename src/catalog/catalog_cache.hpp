@@ -28,7 +28,12 @@ public:
     /// The catalog under `key`, or null. Does not count as a hit.
     handle peek(std::string const& key) const;
 
-    void insert(std::string const& key, handle catalog);
+    /// How often something has been flushed. To be asked before a catalog's file is read.
+    std::uint64_t flush_count() const;
+
+    /// Enters a catalog, unless something has been flushed since `flush_count` gave `count`: its file may
+    /// have been read before the change that the flush is about.
+    void insert(std::string const& key, handle catalog, std::uint64_t count);
 
     /// Drops every entry of a catalog, whatever its locale. Handles in the hands of callers stay good.
     void flush(std::string_view catalog);
@@ -41,6 +46,7 @@ private:
 
     mutable std::mutex mutex_;
     boost::unordered_map<std::string, entry> entries_;
+    std::uint64_t flush_count_ = 0;
 };
 
 } // namespace fl::i18n

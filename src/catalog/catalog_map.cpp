@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <deque>
+#include <memory>
 #include <set>
 
 namespace fl::i18n {
@@ -22,8 +23,10 @@ constexpr std::u16string_view map_file_name = u"catalog_map.xml";
 
 /// Where the index lies, relative to a resource location.
 ustring& map_path() {
-    static ustring path = PARENT_DIRECTORY + PATHNAME_SEPARATOR + u"derived" + PATHNAME_SEPARATOR + u"share" +
-                          PATHNAME_SEPARATOR + u"resources" + PATHNAME_SEPARATOR;
+    static ustring& path =
+        *std::make_unique<ustring>(PARENT_DIRECTORY + PATHNAME_SEPARATOR + u"derived" + PATHNAME_SEPARATOR +
+                                   u"share" + PATHNAME_SEPARATOR + u"resources" + PATHNAME_SEPARATOR)
+             .release();
     return path;
 }
 
@@ -52,8 +55,8 @@ ustring real_directory(upath_directory_entry const& entry) {
     return ustring();
 }
 
-/// Appends the map files in `directory` and below. Links are followed, so each directory is visited once, by its
-/// real name: a loop of links would go on without end otherwise.
+/// Appends the map files in `directory` and below. Links are followed, so each directory is visited once, by
+/// its real name: a loop of links would go on without end otherwise.
 void collectCatalogMaps(upath const& directory, std::vector<upath>& list) {
     ustring start = filesystem::canonical(directory.string(), ustring());
     std::set<ustring> visited;
@@ -73,7 +76,7 @@ void collectCatalogMaps(upath const& directory, std::vector<upath>& list) {
 ustring as_path(std::u16string_view head) {
     ustring path;
     for (char16_t const unit : head)
-        unit == u':' ? path += PATHNAME_SEPARATOR : path += unit;
+        path += unit == u':' ? PATHNAME_SEPARATOR : ustring(1, unit);
     return path;
 }
 
@@ -116,7 +119,10 @@ std::vector<upath> catalog_maps_for(upath const& location, std::u16string_view h
     for (ustring path = as_path(head); !path.empty(); whole = false) {
         upath file = maps / path / map_file_name;
         if (is_present(file)) {
-            whole ? collectCatalogMaps(maps / path, list) : list.push_back(std::move(file));
+            if (whole)
+                collectCatalogMaps(maps / path, list);
+            else
+                list.push_back(std::move(file));
             break;
         }
         std::size_t const cut = path.rfind(PATHNAME_SEPARATOR);

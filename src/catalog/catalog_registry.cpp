@@ -7,7 +7,6 @@
 #include <fl/i18n/message_catalog.hpp>
 #include <fl/i18n/resource_finder.hpp>
 
-#include <exception>
 #include <optional>
 #include <string_view>
 
@@ -18,22 +17,10 @@ namespace {
 using filesystem::upath;
 using handle = std::shared_ptr<MessageCatalog>;
 
-/// The "resources" directory below a root, or nothing if the root has none.
-std::optional<resource_location> find_resource_directory(ustring const& root) {
-    try {
-        upath path = resource_directory(root);
-        if (is_directory(path))
-            return resource_location{std::move(path), false};
-    } catch (std::exception const&) {
-        // A root that cannot even be looked at is as good as absent: the other roots decide.
-    }
-    return std::nullopt;
-}
-
 std::vector<resource_location> find_resource_directories(std::vector<ustring> const& roots) {
     std::vector<resource_location> locations;
     for (ustring const& root : roots)
-        if (std::optional<resource_location> location = find_resource_directory(root))
+        if (std::optional<resource_location> location = find_resource_directory(root, false))
             locations.push_back(std::move(*location));
     return locations;
 }
@@ -58,18 +45,19 @@ catalog_file find_catalog_file(std::string const& catalog, QnLocale const& local
 /// object.
 handle load_catalog(catalog_cache& cache, std::string const& catalog, QnLocale const& locale,
                     std::string const& key) {
+    std::uint64_t const flush_count = cache.flush_count();
     catalog_file const file = find_catalog_file(catalog, locale);
     std::string const found_key = catalog_cache::key(catalog, file.locale);
     bool const is_fallback = file.locale != locale.shortName(QnLocale::messages);
     if (is_fallback)
         if (handle shared = cache.peek(found_key)) {
-            cache.insert(key, shared);
+            cache.insert(key, shared, flush_count);
             return shared;
         }
     handle loaded = std::make_shared<MessageCatalogImpl>(catalog, file.path, file.locale);
-    cache.insert(key, loaded);
+    cache.insert(key, loaded, flush_count);
     if (is_fallback)
-        cache.insert(found_key, loaded);
+        cache.insert(found_key, loaded, flush_count);
     return loaded;
 }
 

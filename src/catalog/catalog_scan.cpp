@@ -30,8 +30,8 @@ struct pending_directory {
     std::string prefix;
 };
 
-/// The identifiers of the catalogs in the directory and below. Directories wait in a list: how deep they lie is
-/// not ours to trust.
+/// The identifiers of the catalogs in the directory and below. Directories wait in a list: how deep they lie
+/// is not ours to trust.
 std::vector<std::string> scanCatalogNames(pending_directory top) {
     std::vector<std::string> catalogs;
     std::deque<pending_directory> pending;

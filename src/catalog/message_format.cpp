@@ -32,8 +32,8 @@ std::int32_t icu_length(std::size_t length) {
     return boost::numeric_cast<std::int32_t>(length);
 }
 
-/// ICU follows arguments within arguments ("{0,select,other{...}}") by recursion, at some kilobytes of stack a
-/// level. This many fit a thread with a stack of 256 KB, and no real message comes near.
+/// ICU follows arguments within arguments ("{0,select,other{...}}") by recursion, at some kilobytes of stack
+/// a level. This many fit a thread with a stack of 256 KB, and no real message comes near.
 constexpr int most_complex_arguments = 50;
 
 /// True if one of the words that begin an argument with patterns in it stands at the start of `text`.
@@ -46,8 +46,8 @@ bool begins_complex_argument(icu::UnicodeString const& text) {
     });
 }
 
-/// Each level of arguments takes such a word behind a comma. They are counted wherever they stand, side by side
-/// too: only ICU knows what is quoted.
+/// Each level of arguments takes such a word behind a comma. They are counted wherever they stand, side by
+/// side too: only ICU knows what is quoted.
 void check_complexity(icu::UnicodeString const& pattern) {
     int count = 0;
     for (std::int32_t comma = pattern.indexOf(u','); comma >= 0; comma = pattern.indexOf(u',', comma + 1)) {

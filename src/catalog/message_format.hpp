@@ -28,8 +28,9 @@ using hole_names = std::vector<icu::UnicodeString>;
 icu::MessageFormat makeMessageFormat(ustring const& message);
 
 /// The names of the holes in the order in which values are assigned to them: words as in the pattern, with
-/// repeats; numbers and custom holes by number, each once. Throws `MessageFormatIncorrect` if words are mixed
-/// with others, and what `std::stoul` throws for a name that is no word and begins with no number.
+/// repeats; numbers and custom holes by number, those of one number as in the pattern, where equal names next
+/// to each other count once. Throws `MessageFormatIncorrect` if words are mixed with others, and what
+/// `std::stoul` throws for a name that is no word and begins with no number.
 hole_names listHoleNames(icu::MessageFormat& format);
 
 /// True if the name begins with a letter.

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <atomic>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace fl::i18n {
@@ -22,8 +23,11 @@ struct resource_location {
 /// directory.
 filesystem::upath resource_directory(ustring const& root);
 
-/// Whether a directory is there; throws what `filesystem::status` throws.
+/// Whether a directory is there. One that cannot even be looked at is as good as absent.
 bool is_directory(filesystem::upath const& path);
+
+/// The directory where the resources of a root lie, or nothing if the root has none.
+std::optional<resource_location> find_resource_directory(ustring const& root, bool additional);
 
 /// The current list, readable without a lock. A change publishes a new vector; former vectors are kept, since
 /// a reader may still walk one: changes are rare and lists are short.

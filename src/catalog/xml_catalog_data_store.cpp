@@ -37,7 +37,8 @@ std::int32_t widen_ascii(char const* bytes, std::int32_t length, char16_t* units
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wconversion" // in ICU's macros
 
-/// Writes at most one unit for each byte; the number of units written. Each ill-formed sequence becomes U+FFFD.
+/// Writes at most one unit for each byte; the number of units written. Each ill-formed sequence becomes
+/// U+FFFD.
 std::int32_t decode_utf8(char const* bytes, std::int32_t length, char16_t* units) noexcept {
     std::int32_t written = 0;
     for (std::int32_t read = 0; read < length;) {
@@ -55,8 +56,8 @@ std::int32_t decode_utf8(char const* bytes, std::int32_t length, char16_t* units
 
 #pragma GCC diagnostic pop
 
-/// Texts of the usual length are decoded aside first, so that each takes just the room of its units: a short one
-/// fits into the object itself.
+/// Texts of the usual length are decoded aside first, so that each takes just the room of its units: a short
+/// one fits into the object itself.
 icu::UnicodeString text_from_utf8(char const* bytes, std::int32_t length) {
     std::array<char16_t, 512> aside;
     if (length <= static_cast<std::int32_t>(aside.size()))

@@ -12,8 +12,8 @@ constexpr bool is_ascii_unit(Unit c) noexcept {
     return static_cast<std::make_unsigned_t<Unit>>(c) < 0x80;
 }
 
-/// Where the first block begins that holds a unit for which `is_sought` is true; `length` if there is none. Looks at
-/// whole blocks without a branch, so that it runs many units at a time.
+/// Where the first block begins that holds a unit for which `is_sought` is true; `length` if there is none.
+/// Looks at whole blocks without a branch, so that it runs many units at a time.
 template <class Unit, class Predicate>
 std::size_t first_block_where(Unit const* text, std::size_t length, Predicate is_sought) noexcept {
     constexpr std::size_t block = 64;

@@ -16,8 +16,8 @@ struct detector_close {
 };
 using owned_detector = std::unique_ptr<UCharsetDetector, detector_close>;
 
-/// The names of the steps are known to those who read the diagnostics, with the letters of "uscdet" as they are.
-/// Warnings are told too. A failure needs no more than that: there are no guesses then.
+/// The names of the steps are known to those who read the diagnostics, with the letters of "uscdet" as they
+/// are. Warnings are told too. A failure needs no more than that: there are no guesses then.
 void report(std::ostream* diagnostics, char const* step, UErrorCode status) {
     if (diagnostics && status != U_ZERO_ERROR)
         *diagnostics << step << " returned error: [" + std::to_string(status) + "]\n";

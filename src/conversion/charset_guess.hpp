@@ -10,8 +10,8 @@
 
 namespace fl::i18n::detail {
 
-/// What ICU's detector makes of the text, judged by `select_charset`; `fallback` also if ICU fails. It sees the
-/// first `most` bytes. Guesses and statuses of ICU are told on `diagnostics` unless that is null.
+/// What ICU's detector makes of the text, judged by `select_charset`; `fallback` also if ICU fails. It sees
+/// the first `most` bytes. Guesses and statuses of ICU are told on `diagnostics` unless that is null.
 std::string guess_charset(std::string_view text, charset_thresholds thresholds, std::string_view fallback,
                           std::ostream* diagnostics, std::size_t most = icu_slice_bytes);
 

@@ -15,8 +15,8 @@ bool is_utf8_trail(char c) noexcept {
     return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
 }
 
-/// The largest prefix of at most `size` bytes that ends between characters. In a run of too many trail bytes it
-/// ends anywhere: what follows begins with a trail byte and is ill-formed, as the whole is.
+/// The largest prefix of at most `size` bytes that ends between characters. In a run of too many trail bytes
+/// it ends anywhere: what follows begins with a trail byte and is ill-formed, as the whole is.
 std::size_t whole_characters(std::string_view text, std::size_t size) noexcept {
     if (text.size() <= size)
         return text.size();

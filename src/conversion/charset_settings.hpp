@@ -1,5 +1,5 @@
-/// What the environment and the system's locale say about charset detection. Each value is computed at first need
-/// and stays for the life of the process.
+/// What the environment and the system's locale say about charset detection. Each value is computed at first
+/// need and stays for the life of the process.
 #pragma once
 
 #include "conversion/charset_selection.hpp"

@@ -11,8 +11,8 @@ namespace fl::i18n {
 
 namespace {
 
-/// What ICU's status of one call means to the caller: whether more room is needed. A failure leaves the object
-/// ready for a new text.
+/// What ICU's status of one call means to the caller: whether more room is needed. A failure leaves the
+/// object ready for a new text.
 template <class To, class From>
 bool needs_room(stream_converter<To, From> const& stream, UErrorCode status) {
     if (U_SUCCESS(status))
@@ -78,12 +78,10 @@ namespace detail {
 /// The text between the two converters; what waits there from call to call lies from `source` to `target`.
 struct pivot_buffer {
     char16_t units[4096];
-    char16_t* start = units;
-    char16_t* limit = units + std::size(units);
     char16_t* source = units;
     char16_t* target = units;
 
-    void clear() noexcept { source = target = start; }
+    void clear() noexcept { source = target = units; }
 };
 
 stream_codecvt_multi_streaming_converter::stream_codecvt_multi_streaming_converter(
@@ -113,8 +111,8 @@ bool stream_codecvt_multi_streaming_converter::do_convert(char** dst, char* dst_
     UErrorCode status = *src && !src_limit ? U_ILLEGAL_ARGUMENT_ERROR : U_ZERO_ERROR;
     ucnv_convertEx(target_->handle(), source_->handle(), has_room ? dst : &no_room,
                    has_room ? dst_limit : no_room, has_source ? src : &no_source,
-                   has_source ? src_limit : no_source, pivot_->start, &pivot_->source, &pivot_->target,
-                   pivot_->limit, false, flush, &status);
+                   has_source ? src_limit : no_source, pivot_->units, &pivot_->source, &pivot_->target,
+                   std::end(pivot_->units), false, flush, &status);
     return needs_room(*this, status);
 }
 

@@ -1,9 +1,8 @@
-#include "date_time/utc_stamp.hpp"
+#include "date_time/kept_locale.hpp"
 #include "support/ascii.hpp"
 
 #include <fl/i18n/codecvt_ascii.hpp>
 #include <fl/i18n/date_time.hpp>
-#include <fl/i18n/std_locale.hpp>
 
 #include <boost/algorithm/string/predicate.hpp>
 #include <boost/date_time/posix_time/posix_time.hpp>
@@ -25,40 +24,16 @@ std::string narrow(ustring const& text) {
     return codecvt_ustring_to_ascii(false).convert(text.data(), text.size());
 }
 
-std::locale make_input_locale(std::string const& format) {
-    return std::locale(facet::get_global_std_locale(), new input_facet(format));
-}
-
-/// Making a facet takes some forty times as long as reading a time with it, as it builds search trees of all
-/// names. So each thread keeps the locales of the named formats, and that of the last format string.
-/// @{
 std::locale const& iso_locale() {
-    thread_local std::locale const locale = make_input_locale(input_facet::iso_time_format_specifier);
+    thread_local std::locale const locale = make_locale<input_facet>(input_facet::iso_time_format_specifier);
     return locale;
 }
 
 std::locale const& iso_extended_locale() {
     thread_local std::locale const locale =
-        make_input_locale(input_facet::iso_time_format_extended_specifier);
+        make_locale<input_facet>(input_facet::iso_time_format_extended_specifier);
     return locale;
 }
-
-std::locale const& utc_stamp_locale() {
-    thread_local std::locale const locale = make_input_locale(utc_stamp_format);
-    return locale;
-}
-
-std::locale const& input_locale(std::string const& format) {
-    thread_local std::string last_format;
-    thread_local std::locale last_locale;
-    if (format != last_format) {
-        std::string key = format; // whatever fails leaves both as they were
-        last_locale = make_input_locale(format);
-        last_format.swap(key);
-    }
-    return last_locale;
-}
-/// @}
 
 /// A text on its way through the facet in a locale.
 class reader {
@@ -80,7 +55,7 @@ private:
 ptime read_utc_stamp(ustring const& text) {
     if (text.size() >= utc_stamp_separator + 2 && text[utc_stamp_separator] != u'T')
         return no_time;
-    reader from(narrow(text), utc_stamp_locale());
+    reader from(narrow(text), utc_stamp_locale<input_facet>());
     ptime const time = from.read();
     return from.at_end() ? time : no_time;
 }
@@ -105,10 +80,10 @@ std::string without_characters_below_zero(std::string text) {
 }
 
 /// Boost remembers a sign in front, for an infinity; and where the text then ends within a number ("-1" by
-/// "-%H") it looks at the character behind the end, which with libc++ is no character but a null pointer. So in
-/// a text that has such a sign and ends in a digit, the sign makes place for a mark; or if it belongs to an
-/// infinity, the digit does. That is as good for any format, unless it skips either: a sign that is apart from
-/// its infinity is lost, and a number behind an infinity not read.
+/// "-%H") it looks at the character behind the end, which with libc++ is no character but a null pointer. So
+/// in a text that has such a sign and ends in a digit, the sign makes place for a mark; or if it belongs to
+/// an infinity, the digit does. That is as good for any format, unless it skips either: a sign that is apart
+/// from its infinity is lost, and a number behind an infinity not read.
 std::string without_stray_sign(std::string text) {
     std::size_t const begin = text.find_first_not_of(" \t\n\v\f\r");
     if (begin == std::string::npos || (text[begin] != '-' && text[begin] != '+') ||
@@ -124,7 +99,7 @@ std::string without_stray_sign(std::string text) {
 ptime to_ptime(ustring const& text, std::string const& format) {
     if (text.empty() || format.empty())
         return no_time;
-    return reader(without_stray_sign(narrow(text)), input_locale(format)).read();
+    return reader(without_stray_sign(narrow(text)), locale_for<input_facet>(format, format)).read();
 }
 
 ptime to_ptime(ustring const& text, DateFormat format) {

@@ -1,12 +1,12 @@
 #include "date_time/timezone_access.hpp"
-#include "date_time/unix_epoch.hpp"
 #include "support/raise.hpp"
+#include "support/unix_epoch.hpp"
 
 namespace fl::i18n::time_zone {
 
 namespace {
 
-using detail::ticks_per_second;
+using support::ticks_per_second;
 
 constexpr std::int64_t ms_per_second = 1000;
 constexpr std::int64_t ticks_per_ms = ticks_per_second / ms_per_second;
@@ -26,23 +26,24 @@ std::int64_t offset_at(UDate date, bool is_local, timezone const& zone) {
     return std::int64_t{raw} + (timezone_access::ignore_dst(zone) ? 0 : dst);
 }
 
+/// No time that `ptime` counts leads out of the range; a cast of any other would be undefined.
 std::int64_t whole_milliseconds(double ms) {
     if (!(-0x1p63 < ms && ms < 0x1p63))
         refuse_time();
     return static_cast<std::int64_t>(ms);
 }
 
-/// ICU gets whole seconds; the fraction goes by it, and is negative before the epoch.
+/// ICU gets whole seconds, cut towards zero; the fraction goes by it, and is negative before the epoch.
 template <bool ToUtc>
 ptime convert(ptime const& time, timezone const& zone) {
-    std::int64_t const ticks = detail::ticks_since_epoch(time);
+    std::int64_t const ticks = support::ticks_since_epoch(time);
     std::int64_t const seconds = ticks / ticks_per_second;
     auto const date = static_cast<UDate>(seconds * ms_per_second);
     std::int64_t const offset = offset_at(date, ToUtc, zone);
     std::int64_t const shifted = whole_milliseconds(date + static_cast<double>(ToUtc ? -offset : offset));
     std::int64_t const fraction = ticks - seconds * ticks_per_second;
-    return detail::time_since_epoch(
-        detail::wrapping_add(fraction, detail::wrapping_multiply(shifted, ticks_per_ms)));
+    return support::time_since_epoch(
+        support::wrapping_add(fraction, support::wrapping_multiply(shifted, ticks_per_ms)));
 }
 
 } // namespace

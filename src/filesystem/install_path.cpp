@@ -4,12 +4,12 @@
 #include "support/once_value.hpp"
 
 #include <fl/filesystem/codecvt.hpp>
+#include <fl/filesystem/exceptions.hpp>
 #include <fl/filesystem/file_status.hpp>
 #include <fl/filesystem/install_path.hpp>
 #include <fl/filesystem/path.hpp>
 #include <fl/i18n/string_conversion.hpp>
 
-#include <exception>
 #include <string_view>
 
 namespace fl::filesystem {
@@ -24,7 +24,7 @@ constexpr std::string_view platform_directory = FL_I18N_PLATFORM_DIR;
 std::string canonical_or_native(std::string const& path) {
     try {
         return detail::to_filesystem(canonical(detail::from_filesystem(path), ustring()));
-    } catch (std::exception const&) { // gone from the disk, or a name that is not UTF-8
+    } catch (FsysExceptionBase const&) { // gone from the disk, or a name that is not UTF-8
         return narrow::make_native_form(path, 1);
     }
 }
@@ -32,7 +32,7 @@ std::string canonical_or_native(std::string const& path) {
 bool ignores_case(std::string const& path) {
     try {
         return (detail::read_volume_flags(path) & platform::volume_case_insensitive) != 0;
-    } catch (std::exception const&) {
+    } catch (FsysExceptionBase const&) {
         return true;
     }
 }

@@ -1,6 +1,7 @@
 #include "filesystem/primitives/error_number.hpp"
 #include "platform/platform.hpp"
 #include "support/raise.hpp"
+#include "support/unix_epoch.hpp"
 
 #include <fl/filesystem/exceptions.hpp>
 #include <fl/filesystem/file.hpp>
@@ -16,11 +17,11 @@ using boost::posix_time::ptime;
 
 /// Seconds are rounded down, so that the rest of a time before 1970 is not negative.
 std::timespec to_timespec(ptime const& time) noexcept {
-    static constexpr std::int64_t second = 1'000'000;
-    std::int64_t const count = (time - ptime(boost::gregorian::date(1970, 1, 1))).total_microseconds();
-    std::int64_t const rest = (count % second + second) % second;
+    using support::ticks_per_second;
+    std::int64_t const ticks = support::ticks_since_epoch(time);
+    std::int64_t const rest = (ticks % ticks_per_second + ticks_per_second) % ticks_per_second;
     std::timespec result{};
-    result.tv_sec = (count - rest) / second;
+    result.tv_sec = (ticks - rest) / ticks_per_second;
     result.tv_nsec = rest * 1'000;
     return result;
 }

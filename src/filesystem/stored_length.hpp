@@ -6,7 +6,7 @@
 
 namespace fl::filesystem::detail {
 
-/// The limits of volumes. Where one is exceeded, lengths are not exact: they say so much and no more.
+/// The limits of volumes. A length above its limit is only known to be above it.
 inline constexpr std::size_t longest_path = 1023;
 inline constexpr std::size_t longest_component = 255;
 

@@ -26,49 +26,35 @@ ustring environment_value(std::string const& name) {
     return value != nullptr ? fl::i18n::utf8_to_ustring(value) : ustring();
 }
 
-/// What keeps temporary files out of a directory: the exception from looking at it or an `errno` value, or
-/// neither.
-struct obstacle {
-    std::exception_ptr exception;
-    int error = 0;
-
-    explicit operator bool() const noexcept { return exception || error != 0; }
-};
-
-int access_error(ustring const& directory) {
-    std::string const bytes = detail::pathname_traits<char16_t>::to_filesystem(directory);
-    return ::access(bytes.c_str(), R_OK | W_OK) == 0 ? 0 : errno;
-}
-
-obstacle obstacle_in(ustring const& directory) {
-    try {
-        std::uint32_t const kind = status(directory).kind();
-        if (kind == file_status::file_not_found)
-            return {nullptr, ENOENT};
-        return {nullptr, kind == file_status::directory_file ? access_error(directory) : ENOTDIR};
-    } catch (FsysExceptionBase const&) {
-        return {std::current_exception()};
-    }
-}
-
-[[noreturn]] void throw_obstacle(obstacle const& found, ustring const& directory) {
-    if (found.exception)
-        std::rethrow_exception(found.exception);
-    detail::throw_errno(found.error, detail::name_to_utf8(directory, detail::replacement_character));
+/// Throws what keeps temporary files out of a directory.
+void require_usable(ustring const& directory) {
+    auto const refuse = [&](int error) {
+        detail::throw_errno(error, detail::name_to_utf8(directory, detail::replacement_character));
+    };
+    std::uint32_t const kind = status(directory).kind();
+    if (kind == file_status::file_not_found)
+        refuse(ENOENT);
+    if (kind != file_status::directory_file)
+        refuse(ENOTDIR);
+    if (::access(detail::to_filesystem(directory).c_str(), R_OK | W_OK) != 0)
+        refuse(errno);
 }
 
 } // namespace
 
 ustring detail::first_usable_directory(std::vector<ustring> const& candidates) {
-    obstacle last;
+    std::exception_ptr last;
     for (ustring const& candidate : candidates) {
-        last = obstacle_in(candidate);
-        if (!last)
+        try {
+            require_usable(candidate);
             return candidate;
+        } catch (FsysExceptionBase const&) {
+            last = std::current_exception();
+        }
     }
     if (!last)
         support::raise(TempEnvNotSpecified());
-    throw_obstacle(last, candidates.back());
+    std::rethrow_exception(last);
 }
 
 ustring temp_dir_name(std::vector<std::string> const& names) {

@@ -19,13 +19,16 @@ std::uint32_t read_volume_flags(std::string const& path) {
     return flags;
 }
 
-character_handling_mode_context read_volume_rules(std::string const& path) {
-    std::uint32_t const flags = read_volume_flags(path);
+character_handling_mode_context rules_of(std::uint32_t flags) {
     std::uint32_t mask =
         flags & (platform::volume_case_insensitive | platform::volume_normalization_insensitive);
     if ((flags & platform::volume_names_decomposed) != 0)
         mask |= character_handling_mode_context::normalized_decompose_mode;
     return mask;
+}
+
+character_handling_mode_context read_volume_rules(std::string const& path) {
+    return rules_of(read_volume_flags(path));
 }
 
 } // namespace fl::filesystem::detail

@@ -20,7 +20,8 @@
 
 namespace fl::i18n::lcmgmt::tables {
 
-// The records of <fl/i18n/locale_tables.hpp> as constant data. They turn into those where they are handed out.
+// The records of <fl/i18n/locale_tables.hpp> as constant data. They turn into those where they are handed
+// out.
 
 struct encoding_name_row {
     unsigned short encoding;

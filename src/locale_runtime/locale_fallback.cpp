@@ -1,3 +1,4 @@
+#include "support/ascii.hpp"
 #include "support/once_value.hpp"
 
 #include <fl/i18n/locale.hpp>
@@ -6,14 +7,6 @@
 namespace fl::i18n {
 
 namespace {
-
-ustring widen(std::string const& text) {
-    ustring result;
-    result.reserve(text.size());
-    for (char const c : text)
-        result.push_back(static_cast<unsigned char>(c));
-    return result;
-}
 
 template <class String>
 void append_fallback_list(std::vector<String>& list, String const& name, String const& fallback) {
@@ -30,7 +23,8 @@ void append_fallback_list(std::vector<String>& list, String const& name, String 
 ustring const& classic_language() {
     constinit static support::once_value<ustring> language;
     return language.get([] {
-        return widen(QnLocale::classic().language(QnLocale::messages, QnLocale::language_with_script));
+        return support::widened(
+            QnLocale::classic().language(QnLocale::messages, QnLocale::language_with_script));
     });
 }
 
@@ -51,7 +45,7 @@ void make_locale_fallback_list(std::vector<std::string>& list, QnLocale const& l
 }
 
 void make_locale_fallback_list(std::vector<ustring>& list, QnLocale const& locale, ustring const& fallback) {
-    append_fallback_list(list, widen(locale.shortName(QnLocale::messages)), fallback);
+    append_fallback_list(list, support::widened(locale.shortName(QnLocale::messages)), fallback);
 }
 
 std::vector<ustring> get_fallback_locales(QnLocale const& locale) {

@@ -1,3 +1,4 @@
+#include "support/ascii.hpp"
 #include "support/raise.hpp"
 
 #include <fl/i18n/locale.hpp>
@@ -15,13 +16,6 @@ std::numpunct<char> const& classic_numpunct() {
 
 char16_t widen(char c) noexcept {
     return static_cast<unsigned char>(c);
-}
-
-ustring widen(std::string const& text) {
-    ustring result;
-    for (char const c : text)
-        result.push_back(widen(c));
-    return result;
 }
 
 /// `base` with `facet` in the place of `Standard`. A locale owns its facets, by a count within them.
@@ -47,8 +41,8 @@ numpunct_facet<char16_t>::numpunct_facet(QnLocale const&, std::size_t refs)
       decimal_point_(widen(classic_numpunct().decimal_point())),
       thousands_sep_(widen(classic_numpunct().thousands_sep())),
       grouping_(classic_numpunct().grouping()),
-      true_name_(widen(classic_numpunct().truename())),
-      false_name_(widen(classic_numpunct().falsename())) {}
+      true_name_(support::widened(classic_numpunct().truename())),
+      false_name_(support::widened(classic_numpunct().falsename())) {}
 
 numpunct_facet<char16_t>::~numpunct_facet() = default;
 

@@ -1,5 +1,6 @@
 /// What differs between operating systems, behind one small interface: one file per system implements it, the
-/// build picks the file, and tests put a fake in its place. No other folder asks which system this is.
+/// build picks the file, and tests put a fake in its place. No other folder asks which system this is. What
+/// takes types of POSIX is not here but in stat_times.hpp and directory.hpp.
 #pragma once
 
 #include <cstdint>
@@ -20,15 +21,15 @@ class services {
 public:
     virtual ~services() = default;
 
-    /// Reads the properties of the volume that holds `path` (UTF-8) into `flags`. Returns 0 or an `errno`
+    /// Reads the properties of the volume that holds `path` (bytes) into `flags`. Returns 0 or an `errno`
     /// value.
     virtual int volume_flags(std::string const& path, std::uint32_t& flags) const = 0;
 
-    /// File name (UTF-8, absolute where the system can tell) of the module that holds `address`, or empty.
+    /// File name (bytes, absolute where the system can tell) of the module that holds `address`, or empty.
     virtual std::string module_path(void const* address) const = 0;
 
-    /// Sets access and modification time of the file (UTF-8 name), as utimensat(2) takes them: `UTIME_OMIT`
-    /// in `tv_nsec` leaves a time as it is. Returns 0 or an `errno` value.
+    /// Sets access and modification time of the file (a name in bytes), as utimensat(2) takes them:
+    /// `UTIME_OMIT` in `tv_nsec` leaves a time as it is. Returns 0 or an `errno` value.
     virtual int set_file_times(std::string const& path, std::timespec const& access,
                                std::timespec const& modification) const = 0;
 

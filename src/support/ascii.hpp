@@ -44,4 +44,12 @@ inline std::string ascii_upper_copy(std::string_view text) {
     return result;
 }
 
+/// Each byte as one unit, as ISO-8859-1 has it.
+inline std::u16string widened(std::string_view bytes) {
+    std::u16string result(bytes.size(), u'\0');
+    for (std::size_t i = 0; i < bytes.size(); ++i)
+        result[i] = static_cast<unsigned char>(bytes[i]);
+    return result;
+}
+
 } // namespace fl::support

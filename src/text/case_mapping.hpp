@@ -8,8 +8,8 @@ namespace fl::i18n::detail {
 /// `u_strToUpper` or `u_strToLower`.
 using case_function = decltype(u_strToUpper);
 
-/// Transforms as <fl/i18n/transform.hpp> says, by the rules of the locale with that name; the empty name stands
-/// for the root rules.
+/// Transforms as <fl/i18n/transform.hpp> says, by the rules of the locale with that name; the empty name
+/// stands for the root rules.
 unsigned long map_case(case_function& function, char const* locale, char16_t* dst, unsigned long dst_len,
                        char16_t const* src, unsigned long src_len);
 

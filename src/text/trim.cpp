@@ -51,15 +51,15 @@ ustring& strip(ustring& s, ustring const& chars, unsigned int ends) noexcept {
 
 } // namespace
 
-ustring& trim(ustring& s, ustring const& chars) {
+ustring& trim(ustring& s, ustring const& chars) noexcept {
     return strip(s, chars, front | back);
 }
 
-ustring& trim_left(ustring& s, ustring const& chars) {
+ustring& trim_left(ustring& s, ustring const& chars) noexcept {
     return strip(s, chars, front);
 }
 
-ustring& trim_right(ustring& s, ustring const& chars) {
+ustring& trim_right(ustring& s, ustring const& chars) noexcept {
     return strip(s, chars, back);
 }
 

@@ -24,8 +24,8 @@ set(below_catalog filesystem conversion locale_runtime text xml support)
 set(shared platform/directory.hpp platform/platform.hpp platform/stat_times.hpp
   text/case_mapping.hpp text/normalization.hpp text/text_buffer.hpp text/unit_search.hpp text/utf32_units.hpp
   text/matching/match_limit.hpp
-  locale_runtime/global_locale_slot.hpp locale_runtime/locale_setting.hpp conversion/sized_conversion.hpp
-  xml/expat_session.hpp)
+  locale_runtime/global_locale_slot.hpp locale_runtime/locale_setting.hpp
+  conversion/contract/converter_name.hpp conversion/sized_conversion.hpp xml/expat_session.hpp)
 
 # Public headers by layer; those below fl/i18n/ that are not named here belong to the catalogs.
 set(public_base export ustring idbase)

@@ -1,6 +1,6 @@
 cmake_minimum_required(VERSION 3.25)
 
-# Rules that hold for every source file: ASCII only in the library, no tests of the operating system outside
+# Rules that hold for every source file: ASCII only in the library, no line too wide, no tests of the operating system outside
 # src/platform, no ICU C++ or expat headers in public headers, umbrella headers that include their family.
 file(GLOB_RECURSE sources RELATIVE "${SOURCE_DIR}"
   "${SOURCE_DIR}/include/*.hpp" "${SOURCE_DIR}/src/*.hpp" "${SOURCE_DIR}/src/*.cpp")
@@ -17,6 +17,10 @@ function(refuse file regex why)
 endfunction()
 
 foreach(file IN LISTS sources)
+  file(STRINGS "${SOURCE_DIR}/${file}" lines LENGTH_MINIMUM 111)
+  foreach(line IN LISTS lines)
+    message(SEND_ERROR "${file}: wider than 110 columns: ${line}")
+  endforeach()
   file(READ "${SOURCE_DIR}/${file}" hex HEX)
   string(REGEX REPLACE "(..)" "\\1 " hex "${hex}")
   if(hex MATCHES "[89a-f]. ")

@@ -1,7 +1,7 @@
 cmake_minimum_required(VERSION 3.25)
 
 # Installs the library and the demo into a fresh tree, writes catalogs beside them, and runs the demo.
-file(REMOVE_RECURSE "${STAGE}")
+file(REMOVE_RECURSE "${STAGE}" "${STAGE}_moved")
 include("${CMAKE_CURRENT_LIST_DIR}/run.cmake")
 
 run("${CMAKE_COMMAND}" --install "${BUILD_DIR}" --prefix "${STAGE}")

@@ -51,7 +51,8 @@ public:
 
     /// The status of the file, symbolic links followed (stat(2)). `file_not_found` if it is gone, as for a
     /// dangling link. Other failures of the system throw the class of their `errno` value: a loop of links
-    /// `SystemError`, a directory without permission to search `AccessDenied`.
+    /// `SystemError`, a directory without permission to search `AccessDenied`, and unlike
+    /// `fl::filesystem::status` a link that leads through something that is no directory `NotDirectoryError`.
     ///
     /// Asks below the open directory while the iterator reads it, so that the length of the path doesn't
     /// matter and a directory renamed meanwhile stays the same one; later by path, when a path longer than

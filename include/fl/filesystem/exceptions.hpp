@@ -39,8 +39,9 @@ public:
     /// A number for each class, from 1.
     std::int32_t code() const noexcept { return code_; }
 
-    /// The file name at fault in UTF-8, empty if none is known. Text for people: what is no valid text in the
-    /// name has been replaced, so it may not open the file.
+    /// The file name at fault in UTF-8, empty if none is known. Text for people, which may not open the file:
+    /// an unpaired surrogate of the name has become U+FFFD, and of a name in bytes that is not UTF-8 each
+    /// byte has become the character of that number.
     std::string const& path() const noexcept { return path_; }
 
     /// Further arguments in UTF-8: the second name of an operation on two files.
@@ -169,7 +170,8 @@ public:
     ~SystemError() override;
 };
 
-/// No directory for temporary files is named anywhere. Code 14.
+/// No directory for temporary files is named anywhere. Code 14. Not thrown at present: "/tmp" is always
+/// tried.
 class FL_I18N_EXPORT TempEnvNotSpecified : public FsysExceptionBase {
 public:
     explicit TempEnvNotSpecified(ustring const& path = {}, std::vector<ustring> const& arguments = {})

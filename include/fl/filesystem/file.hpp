@@ -2,8 +2,8 @@
 /// Files by `ustring` name.
 ///
 /// `fopen` and `freopen` mirror the C library: they report by `errno` and a null pointer, also where a name
-/// can't be converted, and they never throw for bad input. The other functions throw the classes of
-/// <fl/filesystem/exceptions.hpp>.
+/// can't be converted, and but for what a conversion of the caller's throws they never throw for bad input.
+/// The other functions throw the classes of <fl/filesystem/exceptions.hpp>.
 ///
 ///     if (std::FILE* file = fl::filesystem::fopen(u"notes.txt", "r")) ...
 ///
@@ -35,7 +35,8 @@ FL_I18N_EXPORT std::FILE* fopen(upath const& path, std::string const& mode);
 
 /// The same with the caller's conversion from name to bytes. A name that it refuses gives `ENAMETOOLONG` if
 /// the size is the reason, otherwise `ENOENT`; out of memory gives `ENOMEM`. `EINVAL` if a zero byte comes
-/// out. An exception that belongs neither to this library's families nor to memory passes through.
+/// out. Other exceptions pass through, and so do those that have no `errno` value here: `FileIsDirectory`,
+/// `PathNameComparisonFailure` and `TempEnvNotSpecified`.
 FL_I18N_EXPORT std::FILE* fopen(ustring const& name, std::string const& mode,
                                 fl::i18n::converter<char, char16_t> const& to_bytes);
 FL_I18N_EXPORT std::FILE* fopen(upath const& path, std::string const& mode,
@@ -55,7 +56,7 @@ FL_I18N_EXPORT std::FILE* freopen(upath const& path, std::string const& mode, st
 ///
 /// Throws `InvalidArgument` for an empty path ("Empty Path not permitted") and for not-a-date-time ("Time is
 /// not a ptime"), the exceptions of `detail::make_native_access_form`, and the class of the system's `errno`
-/// value, which is `SystemError` for an infinite time.
+/// value, which is `SystemError` for an infinite time. An exception of the system comes without the name.
 FL_I18N_EXPORT void last_write_time(ustring const& name, boost::posix_time::ptime const& time);
 FL_I18N_EXPORT void last_write_time(upath const& path, boost::posix_time::ptime const& time);
 

@@ -7,11 +7,11 @@
 ///
 ///     upath path(fl::filesystem::detail::make_native_form(root, 1));   // "/opt//x/" gives "/opt/x"
 ///     path /= u"resources";                            // "/opt/x/resources"
-///     if (exists(path)) ...
+///     std::string const bytes = fl::filesystem::detail::make_native_access_form(path.string());
 ///
-/// The functions of `detail`, which is part of the interface here, are text operations: they never look at the disk. Lengths count code units.
-/// Except where said, they accept any text, unpaired surrogates and zero units included, and fail only by
-/// `std::bad_alloc`. Everything here may be called from any thread.
+/// The functions of `detail`, which is part of the interface here, are text operations: they never look at
+/// the disk. Lengths count code units. Except where said, they accept any text, unpaired surrogates and zero
+/// units included, and fail only by `std::bad_alloc`. Everything here may be called from any thread.
 #pragma once
 
 #include <fl/i18n/export.hpp>

@@ -1,11 +1,11 @@
 /// @file
 /// Temporary files: where they go, names that nobody else has, and opening one.
 ///
-///     ustring name;
+///     fl::ustring name;
 ///     if (std::FILE* file = fl::filesystem::tmpfile(name, u"", u"report-", u"csv")) {
 ///         ... // name is such as "/tmp/report-3f21-90ab-77c0-1e5d.csv"
 ///         std::fclose(file);
-///         std::remove(detail::make_native_access_form(name).c_str());
+///         std::remove(fl::filesystem::detail::make_native_access_form(name).c_str());
 ///     }
 ///
 /// A name is the directory, the prefix, 16 random hexadecimal digits in four groups (19 characters), and the
@@ -16,6 +16,7 @@
 /// no other thread may set a variable. Otherwise every function may be called from any thread.
 #pragma once
 
+#include <fl/filesystem/path.hpp>
 #include <fl/i18n/export.hpp>
 #include <fl/i18n/ustring.hpp>
 

@@ -2,9 +2,9 @@
 /// Identifiers of message catalogs and of the messages in them.
 ///
 /// An identifier is two or more components joined by single colons. A component begins with an ASCII letter
-/// or "_" and goes on with ASCII letters, digits and "_"; no byte above 127 is accepted, and nothing limits the
-/// number of components or their length. A catalog identifier names a catalog by the component that owns it,
-/// any sub-directories, and its name. A message identifier is a catalog identifier, a colon and a key.
+/// or "_" and goes on with ASCII letters, digits and "_"; no byte above 127 is accepted, and nothing limits
+/// the number of components or their length. A catalog identifier names a catalog by the component that owns
+/// it, any sub-directories, and its name. A message identifier is a catalog identifier, a colon and a key.
 ///
 ///     fl::i18n::MessageID const id("shop:checkout:total");
 ///     id.getCatalogID().getCatalogID(); // "shop:checkout"
@@ -47,8 +47,8 @@ public:
     /// Takes a well-formed identifier; throws `badCatalogIDException` for any other text.
     CatalogID(std::string const& id);
 
-    /// Replaces the identifier. Throws `badCatalogIDException` for text that is not well-formed, the empty one
-    /// included, and then leaves the object as it was.
+    /// Replaces the identifier. Throws `badCatalogIDException` for text that is not well-formed, the empty
+    /// one included, and then leaves the object as it was.
     void setCatalogID(std::string const& id);
 
     /// Splits `id` at its first colon and checks nothing else. False, with both results untouched, for a text

@@ -19,8 +19,8 @@ namespace fl::i18n {
 
 class FL_I18N_EXPORT character_handling_mode_context {
 public:
-    /// The values that a mask combines. Its bits are 1 (case-insensitive), 2 (normalised), 4 (decomposed, with
-    /// 2), 8 (by a locale) and 16 (normalisation-insensitive).
+    /// The values that a mask combines. Its bits are 1 (case-insensitive), 2 (normalised), 4 (decomposed,
+    /// with 2), 8 (by a locale) and 16 (normalisation-insensitive).
     /// @{
     static constexpr unsigned int default_mode = 0;                    ///< unit by unit
     static constexpr unsigned int case_insensitive_mode = 1;           ///< case does not count
@@ -39,9 +39,13 @@ public:
 
     bool is_case_sensitive_mode() const noexcept { return (mask_ & case_insensitive_mode) == 0; }
     /// Bit 2 without bit 4.
-    bool is_normalized_compose_mode() const noexcept { return (mask_ & 6) == normalized_compose_mode; }
+    bool is_normalized_compose_mode() const noexcept {
+        return (mask_ & normalized_decompose_mode) == normalized_compose_mode;
+    }
     /// Bits 2 and 4 together.
-    bool is_normalized_decompose_mode() const noexcept { return (mask_ & 6) == normalized_decompose_mode; }
+    bool is_normalized_decompose_mode() const noexcept {
+        return (mask_ & normalized_decompose_mode) == normalized_decompose_mode;
+    }
     bool is_locale_dependent_mode() const noexcept { return (mask_ & locale_mode) != 0; }
     bool is_normalization_insensitive_mode() const noexcept {
         return (mask_ & normalization_insensitive_mode) != 0;

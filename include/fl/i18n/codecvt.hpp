@@ -43,9 +43,10 @@ namespace fl::i18n {
 ///
 /// `get_destination_size` and the two forms of `convert` agree on the size of the result, substitutions and
 /// escapes counted. The form with a buffer returns that full size in bytes even if the buffer was too small;
-/// the buffer then holds the part of the result that fits, which may end within a character. (ICU's converters
-/// for ISCII and LMBCS count otherwise where a buffer ends, and "x11-compound-text" keeps a state that no reset
-/// reaches: for these take a new object and the form of `convert` that gives a string.) They throw
+/// the buffer then holds the part of the result that fits, which may end within a character. (ICU's
+/// converters for ISCII and LMBCS count otherwise where a buffer ends, and "x11-compound-text" keeps a state
+/// that no reset reaches: for these take a new object and the form of `convert` that gives a string.) They
+/// throw
 /// - `CvtInvalidCharacter` for a character that the encoding lacks, or an unpaired surrogate within the text,
 ///   when the object stops at these,
 /// - `CvtConversionFailure` for any other refusal of ICU, of which an unpaired lead surrogate at the end of

@@ -3,8 +3,8 @@
 ///
 /// An empty tag type picks the rule:
 ///
-///     fl::ustring const a = u"caf\u00E9";
-///     fl::ustring const b = u"CAFE\u0301";
+///     using namespace fl::i18n;
+///     std::u16string_view const a = u"caf\u00E9", b = u"CAFE\u0301";
 ///     detail::compare(a.data(), a.size(), b.data(), b.size(), case_sensitive());              // positive
 ///     detail::compare(a.data(), a.size(), b.data(), b.size(), normalized_case_insensitive()); // 0
 ///

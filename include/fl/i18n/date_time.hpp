@@ -17,8 +17,8 @@
 /// - from writing, `std::out_of_range` for a time outside the years 1400 to 9999, as Boost throws it;
 /// - from reading `DATE_FORMAT_SIMPLE`, what its function says.
 ///
-/// All functions are thread-safe. Each thread keeps the facets that it has made; so text is not to be written or
-/// read from the destructor of a static object, nor from that of another thread-local one.
+/// All functions are thread-safe. Each thread keeps the facets that it has made; so text is not to be written
+/// or read from the destructor of a static object, nor from that of another thread-local one.
 #pragma once
 
 #include <fl/i18n/export.hpp>
@@ -90,12 +90,12 @@ FL_I18N_EXPORT ustring to_ustring(ptime const& time, std::string const& format);
 ///   that does not exist, and if nothing follows the blank; `boost::bad_lexical_cast` where a number is
 ///   expected.
 /// - The ISO formats read what is written in them, special values included. What follows is left unread.
-/// - `DATE_FORMAT_UTC_STAMP` does too, and refuses text that goes on behind the "Z", or that has another unit
-///   than "T" in its place; any unit serves for the "Z". Text that ends early is read as far as it goes:
-///   "2020-01-01" is midnight.
+/// - `DATE_FORMAT_UTC_STAMP` does too, and refuses text that goes on behind the "Z"; any unit serves for the
+///   "Z". A text of 12 units or more is refused if it has another unit than "T" in its place; a shorter one
+///   is read as far as it goes: "2020-01-01" is midnight.
 ///
 /// A fraction that does not begin with a dot is not read. Blanks before the time are skipped, but for
-/// `DATE_FORMAT_SIMPLE` and `DATE_FORMAT_UTC_STAMP`.
+/// `DATE_FORMAT_SIMPLE`, and for `DATE_FORMAT_UTC_STAMP` where they move the "T".
 FL_I18N_EXPORT ptime to_ptime(ustring const& text, DateFormat format);
 
 /// The time that the text tells by a format string. `not_a_date_time` if it can't be read, and for empty text

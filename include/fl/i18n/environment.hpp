@@ -52,7 +52,8 @@ FL_I18N_EXPORT std::int32_t setenv(ustring const& name, ustring const& value, in
                                    bool allow_empty);
 /// @}
 
-/// Removes the variable; that it isn't set is a success. Returns 0, or -1 with `errno` as unsetenv(3) sets it.
+/// Removes the variable; that it isn't set is a success. Returns 0, or -1 with `errno` as unsetenv(3) sets
+/// it.
 /// @{
 FL_I18N_EXPORT std::int32_t unsetenv(std::string const& name);
 FL_I18N_EXPORT std::int32_t unsetenv(ustring const& name);

@@ -187,9 +187,9 @@ public:
     /// exception. Unless said otherwise every argument is required, an empty one is refused with nothing
     /// changed, and success is `done`. Only memory that runs out throws; what was changed until then stays.
     ///
-    /// Where a locale takes a new value, a name that the locale map has as a key counts as it is; another name
-    /// that the language data knows stands for the canonical name found there ("de_AT.UTF-8" for "de_AT"); and
-    /// a name unknown to both becomes a canonical name, so that new locales come into being.
+    /// Where a locale takes a new value, a name that the locale map has as a key counts as it is; another
+    /// name that the language data knows stands for the canonical name found there ("de_AT.UTF-8" for
+    /// "de_AT"); and a name unknown to both becomes a canonical name, so that new locales come into being.
     ///
     /// Language, script and region data are never changed, so `get_language_context` isn't either.
     /// @{
@@ -228,22 +228,22 @@ public:
     /// @name Changes of encodings
     ///
     /// They report as the changes of locales do. An encoding that no key leads to is created under the
-    /// encoding key of its name, which as given is its standard name. An entry is changed in place, for all keys
-    /// that lead to it and for everybody who holds it.
+    /// encoding key of its name, which as given is its standard name. An entry is changed in place, for all
+    /// keys that lead to it and for everybody who holds it.
     /// @{
 
-    /// Sets the Java name and the compatible encoding; an empty `jvm_name` or `compatible` removes the present
-    /// one. The Java name becomes a further key of the encoding, unless the key is taken.
+    /// Sets the Java name and the compatible encoding; an empty `jvm_name` or `compatible` removes the
+    /// present one. The Java name becomes a further key of the encoding, unless the key is taken.
     ///
-    /// `compatible` counts by its standard name, byte for byte: an alias is made an encoding in its own right,
-    /// and leads to its former target no more.
+    /// `compatible` counts by its standard name, byte for byte: an alias is made an encoding in its own
+    /// right, and leads to its former target no more.
     int modify_encoding_data_entry(std::string_view encoding, std::string_view jvm_name,
                                    std::string_view compatible);
     int modify_jvm_encoding(std::string_view encoding, std::string_view jvm_name);
     int modify_compat_encoding(std::string_view encoding, std::string_view compatible);
 
-    /// Lets `alias` lead to the entry of `encoding`, by whatever name that one is given; `already_there` if it
-    /// leads to an entry with the standard name `encoding`, byte for byte.
+    /// Lets `alias` lead to the entry of `encoding`, by whatever name that one is given; `already_there` if
+    /// it leads to an entry with the standard name `encoding`, byte for byte.
     int modify_encoding_alias(std::string_view encoding, std::string_view alias);
 
     /// Removes one key of the encodings, be it an alias or the standard name itself; `not_found` without one.

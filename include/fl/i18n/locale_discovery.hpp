@@ -2,12 +2,14 @@
 /// Discovery of the user's locale, and the C library's environment that goes with it.
 ///
 /// Start-up asks three sources in this order of weight: the user's preferences as the operating system keeps
-/// them, the locale database, which knows what exists, and the defaults. The environment tells the encoding of
-/// the terminal; where the system has no preferences of its own, as on Linux, the preferences are read from it
-/// too. The answer goes into a locale object, and into the eight variables LC_CTYPE, LC_COLLATE, LC_TIME,
-/// LC_NUMERIC, LC_MONETARY, LC_MESSAGES, LC_ALL and LANG, so that the C library, the standard library and child
-/// processes stand on a locale that exists, with UTF-8 as its encoding. Numbers stay those of "C".
+/// them, the locale database, which knows what exists, and the defaults. The environment tells the encoding
+/// of the terminal; where the system has no preferences of its own, as on Linux, the preferences are read
+/// from it too. The answer goes into a locale object, and into the eight variables LC_CTYPE, LC_COLLATE,
+/// LC_TIME, LC_NUMERIC, LC_MONETARY, LC_MESSAGES, LC_ALL and LANG, so that the C library, the standard
+/// library and child processes stand on a locale that exists, with UTF-8 as its encoding. Numbers stay those
+/// of "C".
 ///
+///     // with <fl/i18n/locale_context.hpp>, <fl/i18n/locale_database.hpp> and <fl/i18n/locale_impl.hpp>
 ///     using namespace fl::i18n::lcmgmt;
 ///     locale_database const database;
 ///     fl::i18n::QnLocaleImpl locale(database);
@@ -20,11 +22,11 @@
 /// `fl::i18n::initialize()` does all this once per process; programs have no need to do it again.
 ///
 /// A user setting that can't be used is no error here: it leaves status code 3, the built-in locale
-/// "en_US_POSIX" with messages in the user's language if that is known, and a process that runs. Nothing below
-/// throws for it.
+/// "en_US_POSIX" with messages in the user's language if that is known, and a process that runs. Nothing
+/// below throws for it.
 ///
-/// `setlocale`, `setenv` and `unsetenv` are not thread-safe in the C library: whatever below calls them needs a
-/// process in which no other thread reads or changes the environment or the C locale meanwhile.
+/// `setlocale`, `setenv` and `unsetenv` are not thread-safe in the C library: whatever below calls them needs
+/// a process in which no other thread reads or changes the environment or the C locale meanwhile.
 #pragma once
 
 #include <fl/i18n/discovery_record.hpp>

@@ -99,13 +99,13 @@ public:
     /// without one is skipped; an empty root stands for the current directory.
     ///
     /// The first success decides: later calls change nothing and return whether they describe the same list.
+    /// Additional locations count, so the answer is false while there are any.
     /// Throws `MessageCatalogIncorrectRoot`, and leaves the list empty, if no root survives.
     static bool MessageCatalogInit(std::vector<ustring> const& roots);
     /// The same for a single root.
     static bool MessageCatalogInit(ustring const& root);
     /// Sets the list, then loads `catalogs` for the global locale; null pointers are skipped. False also when
-    /// one of them does not load, and the rest is then not tried. Text that is no catalog identifier throws
-    /// `CatalogID::badCatalogIDException`.
+    /// one of them does not load, and the rest is then not tried. Throws what `openCatalog` does otherwise.
     static bool MessageCatalogInit(std::vector<ustring> const& roots,
                                    std::vector<idbase::BaseCatalogID const*> const& catalogs);
     /// The same for a single root.
@@ -115,8 +115,9 @@ public:
     /// The catalog for `locale`, from the cache or else from the first file found for the locale, its parent,
     /// and English. If no location was set yet, sets that of the installation, or of the current directory
     /// where the library lies in no install tree; `MessageCatalogIncorrectRoot` if there is none. Throws
-    /// `MessageCatalogLoadFailed` if there is no file, or the one found does not load; a failure is not
-    /// remembered.
+    /// `MessageCatalogLoadFailed` if there is no file, or the one found does not load, and what
+    /// `filesystem::status` throws where a candidate cannot be looked at (a name too long, no permission, a
+    /// loop of links). A failure is not remembered.
     static std::shared_ptr<MessageCatalog> GetMessageCatalog(CatalogID const& id, QnLocale const& locale);
     /// The same for the global locale.
     static std::shared_ptr<MessageCatalog> GetMessageCatalog(CatalogID const& id);
@@ -134,27 +135,28 @@ public:
     /// The same for the global locale.
     static ustring get_message(MessageID const& id);
     /// The text of a message with the values that `id` carries in its holes, as by
-    /// `MessageCatalogImpl::getFormattedMessage`.
+    /// `MessageCatalogImpl::getFormattedMessage`. Throws as `openCatalog` does, and `MessageNotFound` and
+    /// `MessageFormatIncorrect`.
     static ustring get_message(idbase::BaseMsgID const& id, QnLocale const& locale);
     /// The same for the global locale.
     static ustring get_message(idbase::BaseMsgID const& id);
     /// The same for the classic locale, which is English.
     static ustring get_default_locale_message(idbase::BaseMsgID const& id);
 
-    /// Appends the directory "resources" of each root, in order, to the list of resource locations: behind all
-    /// others, so that what they hold is found only where no earlier location has a file of the same locale.
-    /// Catalogs that are loaded already stay as they are until they are flushed. All or nothing: throws
-    /// `MessageCatalogIncorrectRoot` if `roots` is empty or one of them has no such directory, and
+    /// Appends the directory "resources" of each root, in order, to the list of resource locations: behind
+    /// all others, so that what they hold is found only where no earlier location has a file of the same
+    /// locale. Catalogs that are loaded already stay as they are until they are flushed. All or nothing:
+    /// throws `MessageCatalogIncorrectRoot` if `roots` is empty or one of them has no such directory, and
     /// `MessageCatalogNotInitialized` if no location was set before; then nothing has changed. A location may
     /// stand in the list several times. Each new list is kept for the life of the process.
     static void set_additional_resource_locations(std::vector<ustring> const& roots);
 
-    /// Takes a root that was added by `set_additional_resource_locations` out of the list again, however often
-    /// it was added, and flushes the catalogs whose English files lie below it, unless the same directory is in
-    /// the list from the start. Catalogs that callers hold stay valid.
+    /// Takes a root that was added by `set_additional_resource_locations` out of the list again, however
+    /// often it was added, and flushes the catalogs whose English files lie below it, unless the same
+    /// directory is in the list from the start. Catalogs that callers hold stay valid.
     ///
-    /// Throws `InvalidPathSupplied` for an empty root, `MessageCatalogNotInitialized`, `ResourcePathNotFound` if
-    /// it was not added, `ResDirNotPresent` if the directory has gone from the disk, and
+    /// Throws `InvalidPathSupplied` for an empty root, `MessageCatalogNotInitialized`, `ResourcePathNotFound`
+    /// if it was not added, `ResDirNotPresent` if the directory has gone from the disk, and
     /// `ResPathRemovalUnknownError` when the walk fails: on a component without an English directory, a
     /// directory that cannot be read, a file whose name makes no catalog identifier. The location then stays,
     /// though some of its catalogs may have been flushed, and the removal may be tried again. So a directory
@@ -185,14 +187,17 @@ public:
     /// hole, in the order of the numbers, on a list of `holeCount` empty texts. Its exceptions pass through.
     ///
     /// A message with named holes takes no values by this form; it comes back unformatted if `holeCount` is
-    /// 0. Throws as the form above, `MessageFormatIncorrect` if `holeCount` is not 0 and `fill` is empty, and
+    /// 0. The list is made first: an absurd `holeCount` throws `std::length_error` or `std::bad_alloc`.
+    ///    Throws
+    /// as the form above, `MessageFormatIncorrect` if `holeCount` is not 0 and `fill` is empty, and
     /// `boost::numeric::positive_overflow` for a hole number of 2^31 or more.
     static ustring GetFormattedMessage(ustring const& message, unsigned long holeCount,
                                        hole_fill_function const& fill);
 
     /// The custom type of hole `number`, as "date" for number 1 of "{1_date}"; empty if no hole of that
     /// number has one. Throws `IncorrectHoleCount` (with `number` as the expected count) if `number` exceeds
-    /// the count of holes, and what `GetFormattedMessage` throws for a pattern or a name that it refuses.
+    /// the count of holes, and what `GetFormattedMessage` throws for a pattern or a name that it refuses. A
+    /// named hole has no number: it throws `std::invalid_argument`.
     static ustring GetCustomHoleType(ustring const& message, unsigned long number);
 };
 
@@ -321,7 +326,7 @@ public:
 
     /// Loads the file anew in place of what was loaded before; the constructor does this once. Not to be
     /// called while another thread uses the object. Throws `MessageCatalogLoadFailed`, and then every look-up
-    /// does.
+    /// does; `get_all_keys` then gives what was read before the fault.
     void initializeXMLCatalog();
 
     ustring get_message_for_key(std::string const& key) const override;
@@ -363,7 +368,8 @@ private:
 class FL_I18N_EXPORT MessageCatalogUtility {
 public:
     /// Where the file of a catalog lies below a resource location, with "%S" for the locale: "a:b:c" gives
-    /// "a/%S/b/c.xml". Empty if `id` is empty, has no colon, or ends in one.
+    /// "a/%S/b/c.xml". Empty if `id` is empty, has no colon, or ends in one. Text outside ASCII throws
+    /// `CvtInvalidCharacter`. Nothing else is checked: pass what `CatalogID` has accepted.
     static ustring obtainXMLFilePathPattern(std::string const& id);
 };
 

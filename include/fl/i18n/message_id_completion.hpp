@@ -8,9 +8,9 @@
 ///     // completions {"cart:", "catalogue:"}, position 5: each replaces the text from there on
 ///
 /// Catalogs are known by an index beside the resources: for a location "root/resources" the files
-/// "root/derived/share/resources/<component>/.../catalog_map.xml". Such a file is XML in UTF-8: a root element
-/// `MessageCatalogMap` with elements `entry`, whose attribute "key" is a catalog identifier. Keys come from the
-/// catalog itself, in the global locale.
+/// "root/derived/share/resources/<component>/.../catalog_map.xml". Such a file is XML in UTF-8: a root
+/// element `MessageCatalogMap` with elements `entry`, whose attribute "key" is a catalog identifier. Keys
+/// come from the catalog itself, in the global locale.
 #pragma once
 
 #include <fl/i18n/codecvt_ascii.hpp>
@@ -38,17 +38,19 @@ struct message_id_completions {
 /// The completions of `input`, which is compared without case behind its last colon and with case before it.
 /// Where nothing fits the list is empty and the position that of the input.
 ///
-/// Never throws: when anything fails the list is empty and the position 0, as before the resource locations are
-/// set, or for a letter outside ASCII before the last colon (behind it only where the catalog exists). Reads the
-/// disk at every call. Thread-safe.
+/// Never throws: when anything fails the list is empty and the position 0, as before the resource locations
+/// are set, or for a letter outside ASCII before the last colon (behind it only where the catalog exists), or
+/// where that catalog has a key with such a letter in the part that is compared, which is the whole key where
+/// nothing is typed behind the colon. Reads the disk at every call. Thread-safe.
 FL_I18N_EXPORT message_id_completions getMessageIdCompletions(ustring const& input);
 
-/// Collects the keys of map files. One object reads several files, one after the other, up to the first that it
-/// refuses (an element out of place, a key that is not ASCII) or that breaks off inside its root element: what
-/// stands before that counts, and nothing behind it, further files included.
+/// Collects the keys of map files. One object reads several files, one after the other, up to the first that
+/// it refuses (an element out of place, a key that is not ASCII) or that breaks off inside its root element:
+/// what stands before that counts, and nothing behind it, further files included.
 class FL_I18N_EXPORT MetaInfoExpatEventHandler : public ExpatEventHandler {
 public:
-    /// `head` is kept for the record and decides nothing. `keys` receives the keys, widened; shared with the caller.
+    /// `head` is kept for the record and decides nothing. `keys` receives the keys, widened; shared with the
+    /// caller.
     MetaInfoExpatEventHandler(ustring const& head,
                               boost::shared_ptr<boost::unordered::unordered_set<ustring>> keys);
     ~MetaInfoExpatEventHandler() override;
@@ -78,9 +80,9 @@ private:
 
 namespace UnitTest {
 
-/// Moves the index of catalogs for a test: `mapPath` takes the place of "../derived/share/resources/" relative
-/// to a resource location; empty means the location itself, as it does after the object has gone. Not while
-/// another thread completes.
+/// Moves the index of catalogs for a test: `mapPath` takes the place of "../derived/share/resources/"
+/// relative to a resource location; empty means the location itself, as it does after the object has gone.
+/// Not while another thread completes.
 class FL_I18N_EXPORT MsgCatTabComplTestHelper {
 public:
     explicit MsgCatTabComplTestHelper(ustring const& mapPath);

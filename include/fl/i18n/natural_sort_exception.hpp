@@ -30,8 +30,8 @@ private:
     std::string message_;
 };
 
-/// The collator failed. `what()` is "ICU Collator's compare operation failed. Following error code received: "
-/// and the text of the error code, for the lifetime of the object.
+/// The collator failed. `what()` is "ICU Collator's compare operation failed. Following error code received:
+/// " and the text of the error code, for the lifetime of the object.
 class FL_I18N_EXPORT NaturalSortCompareException : public std::exception {
 public:
     explicit NaturalSortCompareException(std::string const& error_code);

@@ -67,7 +67,8 @@ public:
     ustring prepareForMatching(ustring const& text) const;
 
     /// The expression, for calls of ICU; null in a moved-from object. It lives as long as this object, or the
-    /// one that this is moved to. `match` and `partialMatch` set another text, which has gone when they return.
+    /// one that this is moved to. `match` and `partialMatch` set another text, which has gone when they
+    /// return.
     URegularExpression* icu_expression() const noexcept;
 
 private:

@@ -15,8 +15,8 @@ struct URegularExpression; // ICU's, see <unicode/uregex.h>
 
 namespace fl::i18n::detail {
 
-/// Holds nothing until `open` has answered `regex_success`. For one thread at a time: matching moves the state
-/// of the expression.
+/// Holds nothing until `open` has answered `regex_success`. For one thread at a time: matching moves the
+/// state of the expression.
 class FL_I18N_EXPORT regex_holder {
 public:
     regex_holder() noexcept = default;
@@ -28,7 +28,7 @@ public:
     regex_excp_id open(std::u16string_view pattern, bool is_case_sensitive);
 
     /// Whether `open` has succeeded.
-    bool is_compiled() const noexcept { return is_compiled_; }
+    bool is_compiled() const noexcept { return expression_ != nullptr; }
 
     /// The handle, null before `open`. The holder keeps owning it.
     URegularExpression* get() const noexcept { return expression_.get(); }
@@ -39,7 +39,6 @@ private:
     };
 
     std::unique_ptr<URegularExpression, closer> expression_;
-    bool is_compiled_ = false;
 };
 
 } // namespace fl::i18n::detail

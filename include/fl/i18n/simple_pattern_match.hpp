@@ -2,7 +2,8 @@
 /// A matcher that reports by status codes, for callers that walk many texts.
 ///
 ///     simple_pattern_match matcher;
-///     if (matcher.open(u".*\\.txt", character_handling_mode_context::case_insensitive_mode) != regex_success)
+///     if (matcher.open(u".*\\.txt", character_handling_mode_context::case_insensitive_mode) !=
+///     regex_success)
 ///         return;
 ///     regex_excp_id status = regex_success;
 ///     for (ustring const& name : names)
@@ -26,8 +27,8 @@ struct matcher_access;
 }
 
 /// Opened once, then matches any number of texts. One thread at a time: a match moves the state of the
-/// expression. Nothing is thrown but `std::bad_alloc`, and `boost::numeric::positive_overflow` for a text or a
-/// pattern of 2^31 units or more.
+/// expression. Nothing is thrown but `std::bad_alloc`, and `boost::numeric::positive_overflow` for a text or
+/// a pattern of 2^31 units or more.
 class FL_I18N_EXPORT simple_pattern_match {
 public:
     /// A matcher whose state is `regex_not_opened`.

@@ -6,6 +6,7 @@
 ///     int main() {
 ///         fl::i18n::initialize();
 ///         fl::i18n::QnLocale::global().shortName(fl::i18n::QnLocale::messages);   // "de_AT"
+///     }
 ///
 /// Before that call, and in programs that never make it, the library works with its built-in locale:
 /// "en_US_POSIX", messages "en_US", encoding "UTF-8". The call reads what the installation and the user's
@@ -63,10 +64,10 @@ FL_I18N_EXPORT void disable_l10n_resource();
 /// a success of `set_lc_messages`, or a change to English by `change_global_locale`.
 FL_I18N_EXPORT bool get_l10n_resource_status();
 
-/// Makes the system's locale the global one, and locks it as `lock_global_locale_setting` does. Only one thing
-/// of the argument counts: if its messages are "en_US" while those of the global locale are not English,
-/// messages are English from now on, as after `disable_l10n_resource`. Any other argument says "the system's
-/// locale". Without effect once the setting is locked or `get_l10n_resource_status()` is false.
+/// Makes the system's locale the global one, and locks it as `lock_global_locale_setting` does. Only one
+/// thing of the argument counts: if its messages are "en_US" while those of the global locale are not
+/// English, messages are English from now on, as after `disable_l10n_resource`. Any other argument says "the
+/// system's locale". Without effect once the setting is locked or `get_l10n_resource_status()` is false.
 FL_I18N_EXPORT void change_global_locale(QnLocale const& locale);
 
 /// From now on `change_global_locale` has no effect. The other functions don't mind.

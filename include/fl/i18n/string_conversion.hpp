@@ -80,8 +80,8 @@ FL_I18N_EXPORT ustring utf8_to_ustring(char const* s, unsigned long len);
 /// @}
 
 /// `s` with its C escapes resolved, as ICU's `u_unescapeAt` reads them: u"a\\tb" gives u"a<tab>b", and an
-/// eight-digit `\U` escape above U+FFFF gives a surrogate pair. One bad escape, a backslash at the very end for one,
-/// makes the whole result empty. Throws `CvtSizeTooLarge` for 2^31 units or more.
+/// eight-digit `\U` escape above U+FFFF gives a surrogate pair. One bad escape, a backslash at the very end
+/// for one, makes the whole result empty. Throws `CvtSizeTooLarge` for 2^31 units or more.
 FL_I18N_EXPORT ustring unescape_c_mode(ustring const& s);
 
 /// The name under which this library knows the encoding `name`, which may be any alias that the library or

@@ -7,8 +7,8 @@
 ///
 ///     using namespace fl::i18n;
 ///     time_zone::timezone const new_york("America/New_York");
-///     ptime const utc = time_zone::to_utc(noon_on_a_summer_day, new_york); // 16:00
-///     time_zone::from_utc(utc, new_york);                                  // 12:00
+///     auto const utc = time_zone::to_utc(noon_on_a_summer_day, new_york); // 16:00
+///     time_zone::from_utc(utc, new_york);                                 // 12:00
 ///
 /// The rules of the zones are those of ICU's data, as installed or as start-up has found them.
 ///
@@ -116,7 +116,10 @@ private:
     bool ignore_dst_;
 };
 
-/// The conversions take one offset from ICU for the given time, with fractions of a second passed through.
+/// The conversions take one offset from ICU for the given time, and pass fractions of a second through. For
+/// the offset the time is cut to whole seconds towards zero: one that is less than a second before a change
+/// of the clocks, and before 1970, gets the offset after it.
+///
 /// Each throws `invalid_time_data` as said there. Special values have no zone: don't pass them. They stay
 /// what they are where the offset is zero, and give some other time elsewhere. Thread-safe.
 /// @{

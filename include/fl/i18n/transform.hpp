@@ -14,8 +14,8 @@
 ///   buffer counts as one of no units, whatever its stated size.
 /// - No more than `dst_len` units are written. Units of the buffer behind the result may change; a NUL may be
 ///   put there, not counted. The content of a buffer that was too small means nothing.
-/// - `CtypeSizeTooLarge` is thrown for a length of 2^31 or more, `CtypeTransformFailure` with ICU's status when
-///   ICU fails. The buffer may then be partly overwritten.
+/// - `CtypeSizeTooLarge` is thrown for a length of 2^31 or more, `CtypeTransformFailure` with ICU's status
+///   when ICU fails. The buffer may then be partly overwritten.
 /// - Unpaired surrogates are characters without mappings and stay as they are.
 /// - The time is linear in the length, but that ICU sorts each run of combining marks by insertion: thousands
 ///   of marks on one letter, which no language has, take the square of their number.
@@ -35,8 +35,8 @@ class QnLocale;
 struct to_upper {}; ///< `u_strToUpper` by ICU's root rules: full mappings, U+00DF gives "SS"
 struct to_lower {}; ///< `u_strToLower` by ICU's root rules
 
-/// `u_strToUpper` by the rules for the locale's name in category `ctype`: "tr_TR" maps i to U+0130. The locale
-/// must live as long as the tag.
+/// `u_strToUpper` by the rules for the locale's name in category `ctype`: "tr_TR" maps i to U+0130. The
+/// locale must live as long as the tag.
 struct to_upper_locale {
     explicit to_upper_locale(QnLocale const& rules) noexcept : locale(rules) {}
     QnLocale const& locale;

@@ -8,7 +8,7 @@
 /// supplementary character in `chars` strips its two surrogates wherever either stands. Nothing is stripped
 /// for an empty `chars`; a text of nothing but members becomes empty.
 ///
-/// All may be called from any thread. The forms that change `s` do not throw and keep its storage, and
+/// All may be called from any thread. The forms that change `s` keep its storage, and
 /// `chars` may be `s` itself; the copies leave `s` alone and may throw `std::bad_alloc`.
 #pragma once
 
@@ -19,9 +19,9 @@ namespace fl::i18n {
 
 /// In place: both ends, the front, the back. They return `s`.
 /// @{
-FL_I18N_EXPORT ustring& trim(ustring& s, ustring const& chars);
-FL_I18N_EXPORT ustring& trim_left(ustring& s, ustring const& chars);
-FL_I18N_EXPORT ustring& trim_right(ustring& s, ustring const& chars);
+FL_I18N_EXPORT ustring& trim(ustring& s, ustring const& chars) noexcept;
+FL_I18N_EXPORT ustring& trim_left(ustring& s, ustring const& chars) noexcept;
+FL_I18N_EXPORT ustring& trim_right(ustring& s, ustring const& chars) noexcept;
 /// @}
 
 /// A stripped copy: both ends, the front, the back.

@@ -1,4 +1,5 @@
 #include "conversion/contract/call_backs.hpp"
+#include "conversion/contract/converter_name.hpp"
 #include "support/raise.hpp"
 
 #include <fl/i18n/cvt_ctx.hpp>
@@ -77,15 +78,6 @@ char const* escape_context(codecvt_call_back_mode mode) noexcept {
     default:
         return UCNV_ESCAPE_ICU;
     }
-}
-
-// ICU's name of the converter, or null.
-char const* name_of(UConverter const* converter) noexcept {
-    if (!converter)
-        return nullptr;
-    UErrorCode status = U_ZERO_ERROR;
-    char const* const name = ucnv_getName(converter, &status);
-    return U_FAILURE(status) ? nullptr : name;
 }
 
 } // namespace
@@ -224,21 +216,13 @@ std::string const& CvtCtx::get_encoding() const {
 }
 
 std::string& CvtCtx::get_cvt_name(std::string& name) const {
-    if (char const* const answer = name_of(converter_.get()))
+    if (char const* const answer = detail::converter_name(converter_.get()))
         name = answer;
     return name;
 }
 
 std::string CvtCtx::get_std_encoding_name(std::string const& name) const {
-    if (name.empty())
-        return {};
-    for (char const* const standard : {"MIME", "IANA", "WINDOWS"}) {
-        UErrorCode status = U_ZERO_ERROR;
-        char const* const answer = ucnv_getStandardName(name.c_str(), standard, &status);
-        if (answer && U_SUCCESS(status))
-            return answer;
-    }
-    return {};
+    return detail::standard_name(name);
 }
 
 unsigned long CvtCtx::get_max_byte_size() const {

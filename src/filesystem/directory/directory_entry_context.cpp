@@ -3,6 +3,7 @@
 #include "filesystem/primitives/error_number.hpp"
 #include "filesystem/primitives/utf8_name.hpp"
 #include "filesystem/volume.hpp"
+#include "platform/platform.hpp"
 
 #include <fl/filesystem/file_status.hpp>
 #include <fl/filesystem/path.hpp>
@@ -40,11 +41,9 @@ directory_entry_context::directory_entry_context(ustring const& directory) {
         std::make_shared<detail::directory_node>(std::move(path)), std::move(handle));
     if (!is_open())
         return;
-    try {
-        mask_ = detail::read_volume_rules(directory_->node->path()).mask();
-    } catch (...) {
-        opening_error_ = detail::errno_of_current_exception();
-    }
+    std::uint32_t flags = 0;
+    opening_error_ = platform::current().volume_flags(directory_->node->path(), flags);
+    mask_ = detail::rules_of(flags).mask();
 }
 
 directory_entry_context::directory_entry_context(std::shared_ptr<detail::open_directory> directory) noexcept

@@ -11,9 +11,19 @@ namespace fl::filesystem {
 struct upath_recursive_directory_iterator::Impl {
     using iterator = std::shared_ptr<detail::upath_directory_iterator_impl>;
 
+    /// However the walk gets to its end, it holds no descriptor there.
+    struct closed_at_end {
+        Impl& walk;
+        ~closed_at_end() {
+            if (!walk.isValid())
+                walk.queue.close();
+        }
+    };
+
     explicit Impl(iterator start) : directory(std::move(start)) {
         if (is_reading())
             queue = detail::directory_queue(*directory->context().directory());
+        closed_at_end const guard{*this};
         getDirEntries();
     }
 
@@ -69,15 +79,6 @@ struct upath_recursive_directory_iterator::Impl {
         }
         return shows = action != detail::treatment::drop;
     }
-
-    /// However the walk gets to its end, it holds no descriptor there.
-    struct closed_at_end {
-        Impl& walk;
-        ~closed_at_end() {
-            if (!walk.isValid())
-                walk.queue.close();
-        }
-    };
 
     iterator directory; // null between two directories
     detail::directory_queue queue;

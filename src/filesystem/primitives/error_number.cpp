@@ -12,17 +12,6 @@
 #include <system_error>
 
 namespace fl::filesystem::detail {
-namespace {
-
-ustring shown(std::string const& path) {
-    try {
-        return from_filesystem(path);
-    } catch (FsysExceptionBase const&) {
-        return widened(path);
-    }
-}
-
-} // namespace
 
 void throw_errno(int error, std::string const& path, std::string const& second_path) {
     ustring const name = shown(path);

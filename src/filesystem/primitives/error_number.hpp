@@ -10,7 +10,7 @@ namespace fl::filesystem::detail {
 [[noreturn]] void throw_errno(int error, std::string const& path = {}, std::string const& second_path = {});
 
 /// The `errno` value for the exception in flight; to be called in a handler. Rethrows an exception that has
-/// none.
+/// none, as some of this library have.
 int errno_of_current_exception();
 
 } // namespace fl::filesystem::detail

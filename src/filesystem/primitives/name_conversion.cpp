@@ -1,8 +1,14 @@
 #include "filesystem/primitives/name_conversion.hpp"
 
+#include "support/ascii.hpp"
+
+#include <fl/filesystem/path.hpp>
+
 namespace fl::filesystem::detail {
 namespace {
 
+/// Where a conversion has failed, a name of this size failed for its size, whatever ICU says: it counts in 32
+/// bits and is not exact about which limit it met first.
 constexpr std::size_t too_large_to_convert = std::size_t{1} << 30;
 
 [[noreturn]] void throw_by_status(UErrorCode status, ustring const& name) {
@@ -13,11 +19,12 @@ constexpr std::size_t too_large_to_convert = std::size_t{1} << 30;
 
 } // namespace
 
-ustring widened(std::string_view name) {
-    ustring result(name.size(), u'\0');
-    for (std::size_t i = 0; i < name.size(); ++i)
-        result[i] = static_cast<unsigned char>(name[i]);
-    return result;
+ustring shown(std::string_view name) {
+    try {
+        return from_filesystem(name);
+    } catch (FsysExceptionBase const&) {
+        return support::widened(name);
+    }
 }
 
 void throw_conversion_failure(UErrorCode status, std::u16string_view name) {
@@ -29,7 +36,7 @@ void throw_conversion_failure(UErrorCode status, std::u16string_view name) {
 void throw_conversion_failure(UErrorCode status, std::string_view name) {
     if (name.size() >= too_large_to_convert)
         throw_name_too_large();
-    throw_by_status(status, widened(name));
+    throw_by_status(status, support::widened(name));
 }
 
 } // namespace fl::filesystem::detail

@@ -16,8 +16,8 @@
 
 namespace fl::filesystem::detail {
 
-/// Each byte as one unit: the text to show for a name that can't be converted.
-ustring widened(std::string_view name);
+/// The text to show for a name: each byte as one unit if it is not UTF-8.
+ustring shown(std::string_view name);
 
 /// Throws the exception for a failure status of the conversion of `name`.
 [[noreturn]] void throw_conversion_failure(UErrorCode status, std::u16string_view name);

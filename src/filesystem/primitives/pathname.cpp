@@ -51,7 +51,7 @@ ustring from_filesystem(std::string_view name) {
 
 std::string make_access_form(std::string name) {
     if (name.find('\0') != name.npos)
-        support::raise(InvalidArgument("Zero unit not permitted in a path", widened(name)));
+        support::raise(InvalidArgument("Zero unit not permitted in a path", shown(name)));
     return name;
 }
 

@@ -1,6 +1,7 @@
 #include "filesystem/primitives/stat_record.hpp"
 
 #include "platform/stat_times.hpp"
+#include "support/unix_epoch.hpp"
 
 #include <ctime>
 
@@ -17,8 +18,7 @@ ptime to_ptime(std::timespec const& time) {
         return ptime(boost::posix_time::neg_infin);
     if (time.tv_sec >= year_10000)
         return ptime(boost::posix_time::pos_infin);
-    std::int64_t const microseconds = std::int64_t{time.tv_sec} * 1'000'000 + time.tv_nsec / 1'000;
-    return ptime(boost::gregorian::date(1970, 1, 1), boost::posix_time::microseconds(microseconds));
+    return support::time_since_epoch(time.tv_sec * support::ticks_per_second + time.tv_nsec / 1'000);
 }
 
 } // namespace

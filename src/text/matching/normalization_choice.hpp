@@ -25,8 +25,8 @@ constexpr bool normalizes(unsigned int form) noexcept {
 unsigned int normalization_form(character_handling_mode_context const& mode) noexcept;
 
 /// A text in NFD if `form` has `form_decomposes`, else in NFC, whether or not it has `form_normalizes`: the
-/// text itself where it is so already, else a copy in `buffer`. Nothing if ICU fails, or the result would have
-/// 2^31 units or more. Throws `boost::numeric::positive_overflow` for a text of that size.
+/// text itself where it is so already, else a copy in `buffer`. Nothing if ICU fails, or the result would
+/// have 2^31 units or more. Throws `boost::numeric::positive_overflow` for a text of that size.
 std::optional<std::u16string_view> normalize_always(unsigned int form, std::u16string_view text,
                                                     text_buffer& buffer);
 

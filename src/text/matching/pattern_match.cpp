@@ -1,4 +1,5 @@
 #include "support/raise.hpp"
+#include "text/matching/expression_text.hpp"
 #include "text/matching/normalization_choice.hpp"
 
 #include <fl/i18n/pattern_match.hpp>
@@ -41,10 +42,9 @@ view in_form(unsigned int form, view text, detail::text_buffer& buffer) {
     return *result;
 }
 
-// ICU keeps the pointer: the text must stay where it is for as long as the expression works on it.
 void set_text(URegularExpression* expression, view text) {
     UErrorCode status = U_ZERO_ERROR;
-    uregex_setText(expression, text.data(), detail::matcher_length(text), &status);
+    detail::set_text(expression, text, status);
     require(status);
 }
 
@@ -61,8 +61,6 @@ std::pair<int, int> current_match(URegularExpression* expression) {
 pattern_match::pattern_match(ustring const& pattern, character_handling_mode_context const& mode)
     : holder_(std::make_unique<detail::regex_holder>()),
       form_(detail::normalization_form(mode)) {
-    if (pattern.empty())
-        raise_for(regex_invalid_argument);
     detail::text_buffer buffer;
     regex_excp_id const result =
         holder_->open(in_form(form_, pattern, buffer), mode.is_case_sensitive_mode());
@@ -77,9 +75,8 @@ pattern_match::~pattern_match() = default;
 bool pattern_match::match(ustring const& text) const {
     URegularExpression* const expression = compiled();
     detail::text_buffer buffer;
-    set_text(expression, in_form(form_, text, buffer));
     UErrorCode status = U_ZERO_ERROR;
-    bool const is_match = uregex_matches(expression, -1, &status) == 1;
+    bool const is_match = detail::matches(expression, in_form(form_, text, buffer), status);
     require(status);
     return is_match;
 }

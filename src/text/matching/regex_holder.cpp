@@ -21,7 +21,6 @@ regex_excp_id regex_holder::open(std::u16string_view pattern, bool is_case_sensi
     if (U_FAILURE(status))
         return regex_failed_object_creation;
     expression_ = std::move(expression);
-    is_compiled_ = true;
     return regex_success;
 }
 

@@ -1,3 +1,4 @@
+#include "text/matching/expression_text.hpp"
 #include "text/matching/match_limit.hpp"
 #include "text/matching/normalization_choice.hpp"
 
@@ -21,8 +22,6 @@ regex_excp_id simple_pattern_match::open(ustring const& pattern,
 
 regex_excp_id simple_pattern_match::open_first(ustring const& pattern,
                                                character_handling_mode_context const& mode) {
-    if (pattern.empty())
-        return regex_invalid_argument;
     form_ = detail::normalization_form(mode);
     detail::text_buffer buffer;
     std::optional<view> const normal_pattern = detail::normalize_always(form_, pattern, buffer);
@@ -44,8 +43,7 @@ bool simple_pattern_match::match(ustring const& text, regex_excp_id& status) con
     if (!prepared)
         return false;
     UErrorCode icu_status = U_ZERO_ERROR;
-    uregex_setText(holder_.get(), prepared->data(), detail::matcher_length(*prepared), &icu_status);
-    bool const is_match = uregex_matches(holder_.get(), -1, &icu_status) == 1;
+    bool const is_match = detail::matches(holder_.get(), *prepared, icu_status);
     status = U_FAILURE(icu_status) ? regex_failed_match_operation : regex_success;
     return status == regex_success && is_match;
 }

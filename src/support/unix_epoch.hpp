@@ -8,7 +8,7 @@
 
 #include <cstdint>
 
-namespace fl::i18n::detail {
+namespace fl::support {
 
 using boost::posix_time::ptime;
 
@@ -50,4 +50,4 @@ constexpr ptime time_since_epoch(std::int64_t ticks) {
     return as_it_stands.is_special() ? as_it_stands : time_of_ticks(wrapping_add(ticks, ticks_at_epoch));
 }
 
-} // namespace fl::i18n::detail
+} // namespace fl::support
