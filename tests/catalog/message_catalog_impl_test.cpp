@@ -7,31 +7,16 @@
 
 #include <set>
 
-namespace fl::i18n {
-namespace {
-
-using testing::failure;
-using LoadFailed = MessageCatalog::MessageCatalogLoadFailed;
-using NotFound = MessageCatalog::MessageNotFound;
-using FormatIncorrect = MessageCatalog::MessageFormatIncorrect;
+using namespace fl::i18n;
+using fl::filesystem::upath;
+using fl::testing::failure;
 using idbase::BaseMsgID;
 
-// Those that only a caller throws; the rest is seen where it is thrown.
-TEST(MessageCatalogExceptions, Texts) {
-    using catalog = MessageCatalog;
-    EXPECT_STREQ(catalog::InvalidPathSupplied().what(), "Path is not valid!");
-    EXPECT_STREQ(catalog::ResDirNotPresent().what(), "Resource directory not found on the path!");
-    EXPECT_STREQ(catalog::ResourcePathNotFound().what(), "Resource path not found!");
-    std::string const unknown = "Unknown error while removal of path! Error : why";
-    EXPECT_EQ(catalog::ResPathRemovalUnknownError("why").what(), unknown);
-}
-
-struct MessageCatalogImplTest : ::testing::Test, testing::temp_tree {
+struct MessageCatalogImplTest : ::testing::Test, fl::testing::temp_tree {
     MessageCatalogImpl load(std::string const& content) {
         file("c.xml", content);
-        return MessageCatalogImpl("a:b", at(u"c.xml"), "de_AT");
+        return MessageCatalogImpl("a:b", upath(text(u"c.xml")), "de_AT");
     }
-    filesystem::upath at(char16_t const* name) const { return filesystem::upath(text(name)); }
 };
 
 constexpr char sample[] = "<rsccat locale='fr'><message><entry key='k'>it's {0}\\n\xF0\x9F\x98\x80</entry>"
@@ -50,27 +35,25 @@ TEST_F(MessageCatalogImplTest, LooksUp) {
     EXPECT_EQ(catalog.get_catalog_name() + catalog.get_locale_name(), "a:bde_AT");
 
     auto const fill = [&](auto id, auto key) { catalog.get_message_for_key(BaseMsgID{{}, id, key}); };
-    for (std::string const key : {"K", "", "k ", "x"}) {
-        std::string const text = "Message Key " + key + " was not found in the catalog a:b";
-        EXPECT_EQ(failure<NotFound>([&] { catalog.get_message_for_key(key); }), text);
-        EXPECT_EQ(failure<NotFound>(fill, "a:b", key), text);
+    for (auto const& [id, key] : {std::pair("a:b", "K"), {"a:b", ""}, {"A:b", "k"}, {"a:b:c", "k"}}) {
+        std::string const text = std::string("Message Key ") + key + " was not found in the catalog a:b";
+        EXPECT_EQ(failure<MessageCatalog::MessageNotFound>(fill, id, key), text) << id;
     }
-    for (char const* const other : {"A:b", "", "a:b:c"})
-        EXPECT_EQ(failure<NotFound>(fill, other, "k"), "Message Key k was not found in the catalog a:b");
-    EXPECT_EQ(failure<FormatIncorrect>(fill, "a:b", "bad"), "Incorrect Message Formatting Attempted");
+    EXPECT_THROW(catalog.get_message_for_key("K"), MessageCatalog::MessageNotFound);
+    EXPECT_THROW(fill("a:b", "bad"), MessageCatalog::MessageFormatIncorrect);
 }
 
 TEST_F(MessageCatalogImplTest, FailedLoadsThrow) {
     std::string const failed =
         "Message Catalog a:b was not loaded from the file. Please check file location, format or contents";
-    for (auto const& where : {at(u"missing"), at(u""), filesystem::upath(), filesystem::upath(u"/\xD800"),
-                              filesystem::upath(ustring(u"c.xml\0x", 7))})
-        EXPECT_EQ(failure<LoadFailed>([&] { MessageCatalogImpl("a:b", where, "de"); }), failed);
+    auto const load_failure = [](auto const& load) {
+        return failure<MessageCatalog::MessageCatalogLoadFailed>(load);
+    };
+    for (auto const& where : {upath(text(u"missing")), upath(text(u"")), upath(), upath(u"/\xD800"),
+                              upath(text(std::u16string_view(u"c.xml\0x", 7)))})
+        EXPECT_EQ(load_failure([&] { MessageCatalogImpl("a:b", where, "de"); }), failed);
     auto catalog = load(sample);
-    EXPECT_EQ(failure<LoadFailed>([&] { load("<rsccat><message>"); }), failed);
-    EXPECT_EQ(failure<LoadFailed>([&] { catalog.initializeXMLCatalog(); }), failed) << "loads anew";
-    EXPECT_EQ(failure<LoadFailed>([&] { catalog.get_message_for_key("k"); }), failed);
+    EXPECT_EQ(load_failure([&] { load("<rsccat><message>"); }), failed);
+    EXPECT_EQ(load_failure([&] { catalog.initializeXMLCatalog(); }), failed) << "loads anew";
+    EXPECT_EQ(load_failure([&] { catalog.get_message_for_key("k"); }), failed);
 }
-
-} // namespace
-} // namespace fl::i18n

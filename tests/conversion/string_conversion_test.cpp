@@ -1,4 +1,5 @@
 #include "conversion/global_encoding.hpp"
+#include "locale_data/rows.hpp"
 #include "support/threads.hpp"
 
 #include <fl/i18n/codecvt.hpp>
@@ -31,7 +32,8 @@ TEST(StringConversion, UsesTheProcessEncoding) {
 // Encodings and converters that cannot convert show which calls use them at all.
 TEST(StringConversion, EmptyTextsTouchNoConverter) {
     codecvt_ustring_to_string gone("UTF-8", false), out(std::move(gone));
-    codecvt_string_to_ustring gone_back("UTF-8", false), in(std::move(gone_back));
+    codecvt_string_to_ustring gone_back("UTF-8", false), in("latin1", true);
+    in = std::move(gone_back);
     set_global_encoding("no-such-encoding");
     EXPECT_EQ("", to_string(fl::ustring()) + to_string(u"", gone));
     EXPECT_EQ(u"", to_ustring(std::string()) + to_ustring(static_cast<char const*>(nullptr)));
@@ -39,6 +41,7 @@ TEST(StringConversion, EmptyTextsTouchNoConverter) {
     EXPECT_THROW(to_ustring(""), CvtConversionFailure);
     EXPECT_THROW(to_string(u"a"), CvtConversionFailure);
     EXPECT_THROW(to_string(u"a", gone), CvtConversionFailure);
+    EXPECT_THROW(to_ustring("a", gone_back), CvtConversionFailure);
     EXPECT_THROW(lcmgmt::get_cached_codecvt(), CvtConversionFailure);
     EXPECT_EQ("\xC3\xA9", to_string(u"\u00e9", out));
     EXPECT_EQ(u"\u00e9\u00e9", to_ustring("\xC3\xA9", in) + to_ustring(std::string("\xC3\xA9"), in));
@@ -49,7 +52,6 @@ TEST(StringConversion, Utf32) {
     EXPECT_EQ(L"a\U0001F600", to_wstring(text));
     EXPECT_EQ(text + text, points + to_ustring(to_wstring(text).c_str()));
     EXPECT_EQ(text + text, to_ustring(to_wstring(text)) + to_ustring(to_u32string(text).c_str()));
-    EXPECT_EQ(U"\uFFFD", to_u32string(u"\xD800"));
     EXPECT_EQ(u"\xD800", to_ustring(std::wstring(1, wchar_t(0xD800)))) << "passes through";
     EXPECT_EQ(u"", to_ustring(static_cast<wchar_t const*>(nullptr)));
 }
@@ -71,7 +73,6 @@ TEST(ProcessCodecvt, CachedPerThreadAndLocale) {
     set_global_encoding("Shift_JIS");
     UConverter* const mine = lcmgmt::get_cached_codecvt();
     EXPECT_EQ(mine, lcmgmt::get_cached_codecvt());
-    EXPECT_NE(mine, lcmgmt::clone_codecvt().get());
     std::thread([&] { EXPECT_NE(mine, lcmgmt::get_cached_codecvt()); }).join();
     set_global_encoding("ISO-8859-1");
     UErrorCode status = U_ZERO_ERROR;
@@ -87,15 +88,9 @@ TEST(TerminalCodecvt, UsesTheTerminalEncodingAndSubstitutes) {
 }
 
 TEST(StandardEncodingName, AnyAliasGivesOneName) {
-    char const* const rows[][2] = {{"utf8", "UTF-8"},
-                                   {"latin1", "ISO-8859-1"},
-                                   {"ISO_8859-1:1987", "ISO-8859-1"},
-                                   {"ibm-1047", "IBM1047"},
-                                   {"lmbcs", "LMBCS-1"},
-                                   {"sjis", "Shift_JIS"},
-                                   {"no-such-encoding", ""},
-                                   {"", ""}};
-    for (auto const& [name, standard] : rows)
+    for (auto const& [name, standard] : rows<2>(
+             "utf8 UTF-8  latin1 ISO-8859-1  ISO_8859-1:1987 ISO-8859-1  ibm-1047 IBM1047  lmbcs LMBCS-1  "
+             "sjis Shift_JIS  no-such-encoding ~  ~ ~"))
         EXPECT_EQ(standard, get_standard_encoding_name(name)) << name;
 }
 
@@ -140,31 +135,27 @@ TEST(Utf8Conversion, EqualsIcuOnAnyUnitsInEveryForm) {
     EXPECT_EQ(u"", utf8_to_ustring(nullptr, 4) + utf8_to_ustring(static_cast<char const*>(nullptr)));
 }
 
-// Runs here without the variable, and in the processes that the test below starts.
+// Runs in the processes that the test below starts. ASCII isn't reported, and a NUL ends the check.
 TEST(EncodingDiagnosticsChild, ConvertsAsEver) {
     EXPECT_EQ("caf\xC3\xA9", to_string(u"caf\u00e9"));
     EXPECT_EQ(u"\u00e9", to_ustring(std::string("\xC3\xA9")));
     EXPECT_EQ(u"\u00e8", to_ustring("\xC3\xA8"));
-    // ASCII isn't reported, and a NUL ends the check.
     EXPECT_EQ(std::string("x\0\xC3\xA7", 4), to_string(fl::ustring(u"x\0\u00e7", 3)));
 }
 
-static std::string reports_of_child(std::string const& environment) {
-    std::string const self = " '" + testing::internal::GetArgvs()[0] + "'";
-    std::FILE* const pipe = popen((environment + self + " --gtest_filter=*Child.*").c_str(), "r");
-    std::string reports;
-    for (char line[256]; pipe && std::fgets(line, sizeof line, pipe);)
-        if (std::string const text(line); text.starts_with("to_") || text.find("PASSED") != text.npos)
-            reports += text;
-    return pipe && pclose(pipe) == 0 ? reports : "child failed";
-}
-
 TEST(EncodingDiagnostics, ReportsNonAsciiTextsWhenTheVariableExists) {
-    std::string const passed = "[  PASSED  ] 1 test.\n";
     std::string const lines = "to_string called with non-ASCII input: caf\xC3\xA9\n"
                               "to_ustring called with non-ASCII string input: \xC3\xA9\n"
                               "to_ustring called with non-ASCII char * input: \xC3\xA8\n";
-    EXPECT_EQ(passed, reports_of_child("env -u QN_CHAR_ENCODING_DIAG"));
-    EXPECT_EQ(lines + passed, reports_of_child("env QN_CHAR_ENCODING_DIAG=1"));
-    EXPECT_EQ(lines + passed, reports_of_child("env QN_CHAR_ENCODING_DIAG=")) << "an empty value counts";
+    std::pair<std::string, std::string> const rows[] = {{"-u QN_CHAR_ENCODING_DIAG", ""},
+                                                        {"QN_CHAR_ENCODING_DIAG=", lines}};
+    for (auto const& [environment, expected] : rows) {
+        std::string const self = " '" + testing::internal::GetArgvs()[0] + "' --gtest_filter=*Child.*";
+        std::FILE* const pipe = popen(("env " + environment + self).c_str(), "r");
+        std::string reports;
+        for (char line[256]; pipe && std::fgets(line, sizeof line, pipe);)
+            reports += std::string_view(line).starts_with("to_") ? line : "";
+        EXPECT_TRUE(pipe && pclose(pipe) == 0) << environment;
+        EXPECT_EQ(expected, reports) << environment;
+    }
 }

@@ -12,14 +12,12 @@ using zone = time_zone::timezone;
 TEST(Timezone, Ids) {
     EXPECT_EQ(u"America/New_York", zone("America/New_York").get_id());
     EXPECT_EQ(u"GMT-03:30", zone("GMT-3:30").get_id());
-    EXPECT_TRUE(zone("Etc/UTC") == zone(fl::ustring(u"Etc/UTC")));
     EXPECT_TRUE(zone("Asia/Calcutta") != zone("Asia/Kolkata")) << "the same rules under another id";
+    using namespace std::string_literals;
     for (fl::ustring const& id :
-         {fl::ustring(u"No/SuchZone"), fl::ustring(u"Etc/Unknown"), fl::ustring(u"\u00e9"),
-          fl::ustring(u"Etc/UTC\0x", 9), fl::ustring(100'000, u'A')})
+         {u"No/SuchZone"s, u"Etc/Unknown"s, u"\u00e9"s, u"Etc/UTC\0x"s, fl::ustring(100'000, u'A')})
         EXPECT_EQ("fl::i18n::timezone::invalid_timezone_id",
                   fl::testing::failure<time_zone::invalid_timezone_id>([&] { zone const z(id); }));
-    EXPECT_THROW(zone("No/SuchZone"), time_zone::invalid_timezone_id);
     EXPECT_EQ(2, time_zone::invalid_timezone_id().code());
     EXPECT_EQ("Invalid timezone id.", time_zone::invalid_timezone_id().message());
     EXPECT_THROW(zone("Z\xFCrich"), CvtInvalidCharacter);
@@ -44,10 +42,7 @@ TEST(Timezone, CopiesAreEqualAndTheirOwn) {
         timezone_access::ignore_dst(source) = true;
         zone const copy(source);
         assigned = copy;
-        icu::TimeZone const* const before = &timezone_access::icu(assigned);
-        assigned = static_cast<zone const&>(assigned);
-        EXPECT_EQ(before, &timezone_access::icu(assigned)) << "assigned to itself";
-        EXPECT_TRUE(copy == source && assigned == source && !(copy != source));
+        EXPECT_TRUE(copy == source && assigned == source);
         EXPECT_NE(&timezone_access::icu(copy), &timezone_access::icu(source));
         timezone_access::ignore_dst(source) = false;
         EXPECT_TRUE(copy != source);

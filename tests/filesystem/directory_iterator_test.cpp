@@ -1,5 +1,6 @@
 #include "locale_data/rows.hpp"
 #include "platform/platform.hpp"
+#include "support/platform_double.hpp"
 #include "support/temp_tree.hpp"
 
 #include <fl/filesystem/directory_iterator.hpp>
@@ -12,8 +13,6 @@
 #include <set>
 #include <sys/stat.h>
 #include <unistd.h>
-
-#include "support/platform_double.hpp"
 
 using namespace fl::filesystem;
 using namespace fl::i18n;
@@ -58,34 +57,30 @@ TEST_F(DirectoryIteratorTest, ShowsEveryNameOnce) {
     EXPECT_EQ(shown(root, by_wildcard(u"*")), expected);
     EXPECT_EQ(shown(root, by_wildcard(u"bad\uFFFD")), (names{u"bad\uFFFD", u"bad\uFFFD"}));
     EXPECT_EQ(shown(root, by_wildcard(u".*"), initialization_mode(2), true), (names{u".", u"..", u"..."}));
+    EXPECT_EQ(shown(root, pattern_string_context(u"*", u"^(.|\\r)*a|(.|\\r)*b$")).size(), 3)
+        << "one too slow";
+    EXPECT_EQ(shown(root, pattern_string_context(u"*", u"\\s+")).size(), 1);
     expected.insert({u".", u".."});
-    stdfs::path const former = stdfs::current_path();
     stdfs::current_path(tree.root());
     EXPECT_EQ(shown(u"", initialization_mode::none, true), expected);
-    stdfs::current_path(former);
+    stdfs::current_path("/");
 }
 
 TEST_F(DirectoryIteratorTest, WildcardsFollowTheVolume) {
-    std::string const slow(250, '\r');
     for (auto const& [name, wildcard, finding] :
-         rows<3>("a.txt *.TXT 1,3,17,  a.txt a*t 0,1,2,3,16,17,  caf\u00E9 *\u00E9 0,1,2,3,16,17,  bad\xFF "
-                 "B*\uFFFD 1,3,17,  "
-                 "caf\u00E9 cafe\u0301* 2,3,16,17,  e\u0301t\u00E9 \u00E9t* 2,3,16,17,  e\u0301t\u00E9 "
-                 "\u00C9T*\u0301 3,  "
+         rows<3>("a.txt *.TXT 1,3,17,  a.txt a*t 0,1,2,3,16,17,  caf\u00E9 *\u00E9 0,1,2,3,16,17, "
+                 "bad\xFF B*\uFFFD 1,3,17,  caf\u00E9 cafe\u0301* 2,3,16,17, "
+                 "e\u0301t\u00E9 \u00E9t* 2,3,16,17,  e\u0301t\u00E9 \u00C9T*\u0301 3, "
                  "xslow *x*\uFFFD ~  slow *sl* 0,1,2,3,16,17,")) {
-        std::string const own = name.ends_with("slow") ? slow + name : name;
-        tree.file(own);
+        auto const file = tree.file(name.ends_with("slow") ? std::string(250, '\r') + name : name);
         for (std::uint32_t const volume : {0u, 1u, 2u, 3u, 16u, 17u}) {
-            bool const is_found =
-                ("," + finding).find("," + std::to_string(flags = volume) + ",") != finding.npos;
+            flags = volume;
+            bool const is_found = ("," + finding).find("," + std::to_string(volume) + ",") != finding.npos;
             EXPECT_EQ(shown(root, by_wildcard(utf8_to_ustring(wildcard))).size(), is_found)
                 << name << ' ' << volume;
         }
-        stdfs::remove(tree.root() / own);
+        stdfs::remove(file);
     }
-    tree.file(slow);
-    EXPECT_EQ(shown(root, pattern_string_context(u"*", u"^(.|\\r)*a|(.|\\r)*b$")), names{}) << "given up";
-    EXPECT_EQ(shown(root, pattern_string_context(u"*", u"\\s+")).size(), 1);
 }
 
 TEST_F(DirectoryIteratorTest, Refusals) {
@@ -109,8 +104,7 @@ TEST_F(DirectoryIteratorTest, Refusals) {
 
 TEST_F(DirectoryIteratorTest, EntriesTellWhatTheDiskSays) {
     tree.file("regular"), tree.file("directory/child"), ::mkfifo((tree.root() / "fifo").c_str(), 0600);
-    for (auto const& [name, target] :
-         rows<2>("to_file regular  to_directory directory  dangling no  loop loop"))
+    for (auto const& [name, target] : rows<2>("to_file regular  to_directory directory  dangling no"))
         stdfs::create_symlink(target, tree.root() / name);
     auto const check = [&](upath_directory_entry const& entry) {
         SCOPED_TRACE(ustring_to_utf8(entry.filename()));
@@ -118,24 +112,20 @@ TEST_F(DirectoryIteratorTest, EntriesTellWhatTheDiskSays) {
         EXPECT_EQ(entry.pathname() + entry.alternative_filename(), root);
         EXPECT_EQ(entry.type(), symlink_status(entry.full_pathname()).kind());
         EXPECT_EQ(entry.symlink_status().kind(), entry.type());
-        try {
-            std::uint32_t const expected = status(entry.full_pathname()).kind();
-            EXPECT_EQ(entry.status().kind(), expected);
-            EXPECT_EQ(entry.target_type(), expected);
-            EXPECT_EQ(entry.target_type_without_validation(), expected);
-        } catch (SystemError const&) {
-            EXPECT_EQ(entry.filename(), u"loop");
-        }
+        EXPECT_EQ(entry.target_type(), status(entry.full_pathname()).kind());
+        EXPECT_EQ(entry.target_type_without_validation(), entry.target_type());
     };
     std::vector<upath_directory_entry> kept;
     for (upath_directory_entry const& entry : upath_directory_iterator(root))
         check(entry), kept.push_back(entry.snapshot());
-    EXPECT_EQ(kept.size(), 7);
+    EXPECT_EQ(kept.size(), 6);
     for (upath_directory_entry const& entry : kept) {
         check(entry); // now by path
         stdfs::remove_all(tree.root() / entry.filename());
         EXPECT_EQ(entry.status().kind(), file_status::file_not_found);
     }
+    stdfs::create_symlink("loop", tree.root() / "loop");
+    EXPECT_THROW(upath_directory_iterator(root)->status(), SystemError);
 }
 
 TEST_F(DirectoryIteratorTest, CopiesShareThePositionAndSnapshotsDoNot) {

@@ -1,6 +1,7 @@
 #include "filesystem/primitives/error_number.hpp"
 
 #include <fl/filesystem/exceptions.hpp>
+#include <fl/i18n/cvt_exception.hpp>
 
 #include <gtest/gtest.h>
 
@@ -30,10 +31,18 @@ TEST(ErrorNumber, EachValueHasItsClassAndGoesBack) {
             EXPECT_EQ(failure.code(), code);
             EXPECT_EQ(failure.path(), "/caf\xC3\xA9");
             EXPECT_EQ(failure.arguments(), std::vector<std::string>{"/raw\xC3\xBF"}) << "shown byte by byte";
-            if (back != 0)
-                EXPECT_EQ(detail::errno_of_current_exception(), back);
-            else
-                EXPECT_THROW(detail::errno_of_current_exception(), FileIsDirectory);
+            EXPECT_TRUE(back == 0 || detail::errno_of_current_exception() == back);
         }
     }
+    auto const errno_of = [](auto const& exception) {
+        try {
+            throw exception;
+        } catch (...) {
+            return detail::errno_of_current_exception();
+        }
+    };
+    EXPECT_EQ(errno_of(std::bad_alloc()), ENOMEM);
+    EXPECT_EQ(errno_of(fl::i18n::CvtSizeTooLarge()), ENAMETOOLONG);
+    EXPECT_EQ(errno_of(fl::i18n::CvtConversionFailure()), ENOENT);
+    EXPECT_THROW(errno_of(FileIsDirectory()), FileIsDirectory);
 }

@@ -48,7 +48,6 @@ TEST_F(FileStatusTest, StatusAgreesWithTheStandardLibrary) {
 }
 
 TEST_F(FileStatusTest, NamesThatReachNoFile) {
-    EXPECT_EQ(status(u"").kind(), file_status::file_not_found);
     EXPECT_FALSE(exists(upath(tree.text(u"sub\0.txt"s)))) << "the system would see 'sub'";
     EXPECT_TRUE(exists(upath(tree.text(u"fifo/")))) << "taken in native form";
     EXPECT_THROW(status(tree.text(ustring(300, u'n'))), FileNameTooLarge);
@@ -66,14 +65,13 @@ TEST_F(FileStatusTest, AbsoluteAndCanonicalAgreeWithTheStandardLibrary) {
             EXPECT_EQ(absolute(name, base), whole.u16string());
             std::error_code error;
             stdfs::path const expected = stdfs::canonical(whole, error);
-            if (error)
-                EXPECT_THROW(canonical(name, base), FsysExceptionBase);
-            else
+            if (!error)
                 EXPECT_EQ(canonical(name, base), expected.u16string());
+            else
+                EXPECT_THROW(canonical(name, base), FsysExceptionBase);
         }
     stdfs::current_path("/");
     EXPECT_EQ(absolute(u"/a//b/", u"/c"), u"/a/b");
     EXPECT_THROW(canonical(tree.text(u"byteslink"), u""), CvtInvalidCharacter);
     EXPECT_THROW(canonical(u"", tree.text()), PathNotFound);
-    EXPECT_THROW(canonical(tree.text(u"sub\0"s), u""), InvalidArgument);
 }

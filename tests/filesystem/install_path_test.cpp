@@ -1,11 +1,9 @@
-#include "filesystem/volume.hpp"
 #include "locale_data/rows.hpp"
 #include "support/ascii.hpp"
 #include "support/platform_double.hpp"
 #include "support/temp_tree.hpp"
 #include "support/threads.hpp"
 
-#include <fl/filesystem/exceptions.hpp>
 #include <fl/filesystem/install_path.hpp>
 
 #include <gtest/gtest.h>
@@ -47,14 +45,10 @@ TEST_F(InstallPathTest, WalksUpToTheDirectoryPair) {
 
 TEST_F(InstallPathTest, CaseCountsByTheVolume) {
     path = "/x/BIN/" + fl::support::ascii_upper_copy(DIR) + "/lib.so";
-    for (std::uint32_t const known : {0u, 2u, 16u, 1u}) {
-        flags = known; // all but 1 are about normalisation
-        EXPECT_EQ(get_base_path(nullptr), known == 1 ? "/x" : "") << known;
-    }
-    flags = 0;
+    for (flags = 0; flags < 32; ++flags)
+        EXPECT_EQ(get_base_path(nullptr), flags % 2 == 1 ? "/x" : "") << flags;
     error = EACCES;
     EXPECT_EQ(get_base_path(nullptr), "/x");
-    EXPECT_THROW(detail::read_volume_flags("/x"), AccessDenied);
 }
 
 TEST_F(InstallPathTest, IsTextComputedOnceAfterAFailedTry) {

@@ -30,9 +30,6 @@ TEST(OpenDirectoryTest, NeverByLinks) {
             file_descriptor const opened(open(root.get(), path.c_str()));
             EXPECT_EQ(opened.is_open() ? 0 : errno == ELOOP ? ENOTDIR : errno, expected);
         }
-        directory_handle const handle = to_handle(open_below(root.get(), path));
-        EXPECT_EQ(handle ? 0 : errno, expected);
-        EXPECT_TRUE(!handle ||
-                    equivalent(tree.root() / path, "/proc/self/fd/" + std::to_string(::dirfd(handle.get()))));
+        EXPECT_EQ(to_handle(open_below(root.get(), path)) ? 0 : errno, expected);
     }
 }

@@ -58,12 +58,12 @@ TEST(WildcardTest, AgreesWithItsRegularExpression) {
 
 TEST(WildcardTest, NamesMadeToBeSlow) {
     ustring const returns(255, u'\r');
-    for (auto const pattern : {u"*a*b", u"a*\r*\r*\r*\r*\r*\r*\r*\r*b", u"*ab*\r\r\r\n"})
-        for (ustring const& name : {returns, u"a" + returns, u"ab" + returns, u"xab" + returns + u"\n"}) {
+    for (ustring const pattern : {u"*a*b", u"a*\r*\r*\r*\r*\r*\r*\r*\r*b", u"*ab*\r\r\r\n"})
+        for (ustring const& name : {u"a" + returns, u"xab" + returns + u"\n"}) {
             auto const parsed = wildcard::parse(generate_pattern_from_filename(pattern)).value();
-            bool const expected = name.back() == ustring(pattern).back();
-            EXPECT_EQ(parsed.matches(name), expected);
-            EXPECT_EQ(expression_matches(parsed.bounded_expression(), 17, name), expected);
+            EXPECT_EQ(parsed.matches(name), name.back() == pattern.back());
+            EXPECT_EQ(expression_matches(parsed.bounded_expression(), 17, name),
+                      name.back() == pattern.back());
         }
 }
 

@@ -16,7 +16,6 @@ static std::u32string icu_to_u32(ustring const& text) {
     UErrorCode status = U_ZERO_ERROR;
     auto const length = static_cast<int32_t>(text.size());
     u_strToUTF32WithSub(points, 3000, &size, text.data(), length, 0xFFFD, nullptr, &status);
-    EXPECT_TRUE(U_SUCCESS(status));
     return std::u32string(points, points + size);
 }
 
@@ -49,10 +48,10 @@ TEST(CodePoints, EachIsJudgedAndGoesThereAndBack) {
         ASSERT_TRUE(c > 0xFFFF || units[0] == c) << +c;
     }
     EXPECT_FALSE(is_valid_utf32(0x110000) || is_valid_uchar(0x110000));
-    for (char16_t const other : {u'a', u'\uE000'}) {
+    for (char16_t const other : {u'\xD7FF', u'\xDBFF', u'\xE000'})
         EXPECT_EQ(make_utf32_from_uchar(0xD83D, other), 0xFFFDu) << +other;
+    for (char16_t const other : {u'\xD7FF', u'\xDC00', u'\xE000'})
         EXPECT_EQ(make_utf32_from_uchar(other, 0xDE00), 0xFFFDu) << +other;
-    }
 }
 
 // Lone surrogates pass on the way from UTF-32, so that the way back meets halves and pairs in any order.

@@ -4,7 +4,10 @@
 #include <gtest/gtest.h>
 #include <unicode/uchar.h>
 
+#include <array>
 #include <cstdio>
+#include <cstring>
+#include <memory>
 #include <sstream>
 
 using namespace fl::i18n;
@@ -17,43 +20,37 @@ static ustring in_form(ustring const& text) {
     return result;
 }
 
-// Unicode's own table of cases, plain or as Debian has it; empty where it isn't installed.
-static std::string conformance_table() {
-    std::string table;
-    std::FILE* const pipe = popen("cd /usr/share/unicode && exec 2>/dev/null; "
-                                  "cat NormalizationTest.txt || bzip2 -dc NormalizationTest.txt.bz2",
-                                  "r");
-    for (char buffer[4096]; std::size_t const size = std::fread(buffer, 1, sizeof buffer, pipe);)
-        table.append(buffer, size);
-    pclose(pipe);
-    return table;
+// The first five columns; empty for a comment.
+static std::array<ustring, 5> columns(char const* line) {
+    std::istringstream text(line);
+    std::array<ustring, 5> result;
+    for (ustring& column : result) {
+        std::string field;
+        std::getline(text, field, ';');
+        std::istringstream points(field);
+        char16_t units[2];
+        for (unsigned long c = 0; points >> std::hex >> c;)
+            column.append(units, lcctype::make_uchar_from_utf32(static_cast<char32_t>(c), units));
+    }
+    return result;
 }
 
-static ustring next_column(std::istream& line) {
-    std::string text;
-    std::getline(line, text, ';');
-    std::istringstream points(text);
-    std::u32string result;
-    for (unsigned long point = 0; points >> std::hex >> point;)
-        result += static_cast<char32_t>(point);
-    return lcctype::codecvt_from_u32(result);
-}
-
+// Unicode's own table of cases, plain or as Debian has it.
 TEST(Normalization, ConformsToTheTableOfUnicode) {
-    std::istringstream table(conformance_table());
-    std::string line;
-    std::getline(table, line);
-    if (line.find(U_UNICODE_VERSION) == std::string::npos)
+    std::unique_ptr<std::FILE, int (*)(std::FILE*)> const table(
+        popen("cd /usr/share/unicode && exec 2>/dev/null; "
+              "cat NormalizationTest.txt || bzip2 -dc NormalizationTest.txt.bz2",
+              "r"),
+        pclose);
+    char line[4096] = "";
+    if (!std::fgets(line, sizeof line, table.get()) || !std::strstr(line, U_UNICODE_VERSION))
         GTEST_SKIP() << "No NormalizationTest.txt of Unicode " U_UNICODE_VERSION " (Debian: unicode-data)";
     ustring const before = u"As long as a block of units, and more: "; // nothing joins with its last space
     int rows = 0;
-    while (std::getline(table, line) && !HasFailure()) {
-        std::istringstream columns(line);
-        ustring c[5]; // empty for a comment
-        for (ustring& text : c)
-            text = next_column(columns);
+    while (std::fgets(line, sizeof line, table.get()) && !HasFailure()) {
+        auto const c = columns(line);
         rows += c[4].empty() ? 0 : 1;
-        for (int i = 0; i < 5; ++i) {
+        for (std::size_t i = 0; i < 5; ++i) {
             EXPECT_EQ(in_form<to_nfc>(c[i]), c[i < 3 ? 1 : 3]) << line << i;
             EXPECT_EQ(in_form<to_nfd>(before + c[i]), before + c[i < 3 ? 2 : 4]) << line << i;
             EXPECT_EQ(in_form<to_nfkc>(c[i]), c[3]) << line << i;

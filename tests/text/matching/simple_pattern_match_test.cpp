@@ -4,8 +4,6 @@
 #include <boost/numeric/conversion/cast.hpp>
 #include <gtest/gtest.h>
 
-#include <chrono>
-
 using namespace fl::i18n;
 using fl::ustring;
 
@@ -19,9 +17,7 @@ static regex_excp_id status_of(simple_pattern_match const& matcher, ustring cons
 TEST(SimplePatternMatch, OpensOnce) {
     for (unsigned int const mask : {0U, 2U, 4U, 22U}) {
         SCOPED_TRACE(mask);
-        simple_pattern_match matcher;
-        simple_pattern_match empty;
-        simple_pattern_match wrong;
+        simple_pattern_match matcher, empty, wrong;
         bool const normalizes = (mask & 18) != 0; // which an empty text can't be
         EXPECT_EQ(status_of(matcher, u"a"), regex_invalid_object) << "not yet";
         EXPECT_EQ(matcher.open(u"a*", mask), regex_success);
@@ -30,10 +26,9 @@ TEST(SimplePatternMatch, OpensOnce) {
         EXPECT_EQ(status_of(matcher, u"", !normalizes),
                   normalizes ? regex_failed_normalization : regex_success);
         EXPECT_EQ(empty.open(u"", mask), regex_invalid_argument);
-        EXPECT_EQ(empty.open(u"a", mask), regex_invalid_argument);
-        EXPECT_EQ(status_of(empty, u"a"), regex_invalid_object);
         EXPECT_EQ(wrong.open(u"(", mask), regex_failed_object_creation);
-        EXPECT_EQ(status_of(wrong, u"("), regex_invalid_object);
+        EXPECT_EQ(wrong.open(u"a", mask), regex_failed_object_creation);
+        EXPECT_EQ(status_of(wrong, u"a"), regex_invalid_object);
     }
 }
 
@@ -43,17 +38,21 @@ TEST(SimplePatternMatch, TimeLimitEndsHostileMatches) {
     EXPECT_FALSE(detail::limit_match_time(matcher, 100)) << "nothing to limit yet";
     ASSERT_EQ(matcher.open(u"^(.|\r)*x$", 0), regex_success);
     ASSERT_TRUE(detail::limit_match_time(matcher, 100));
-    auto const start = std::chrono::steady_clock::now();
     EXPECT_EQ(status_of(matcher, ustring(120, u'\r')), regex_failed_match_operation);
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
     EXPECT_EQ(status_of(matcher, u"y"), regex_success) << "the next text has the whole time again";
-    EXPECT_FALSE(detail::limit_match_time(matcher, -1));
-}
-
-TEST(SimplePatternMatch, LengthsBeyondIcuOverflow) {
     std::u16string_view const endless(u"a", 0x80000000UL);
     detail::text_buffer buffer;
-    EXPECT_THROW(detail::matcher_length(endless), boost::numeric::positive_overflow);
     EXPECT_THROW(detail::normalize_by_form(1, endless, buffer), boost::numeric::positive_overflow);
     EXPECT_THROW(detail::regex_holder().open(endless, true), boost::numeric::positive_overflow);
+}
+
+TEST(RegexHolder, MovedFromIsNotCompiled) {
+    detail::regex_holder holder;
+    EXPECT_FALSE(holder.is_compiled());
+    EXPECT_EQ(holder.open(u"(", true), regex_failed_object_creation);
+    EXPECT_FALSE(holder.is_compiled());
+    ASSERT_EQ(holder.open(u"a", true), regex_success);
+    detail::regex_holder const other(std::move(holder));
+    EXPECT_TRUE(other.is_compiled());
+    EXPECT_FALSE(holder.is_compiled());
 }
