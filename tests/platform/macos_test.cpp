@@ -6,8 +6,8 @@
 #include <gtest/gtest.h>
 
 #include <CoreFoundation/CoreFoundation.h>
-#include <dlfcn.h>
 #include <fcntl.h>
+#include <filesystem>
 #include <sys/attr.h>
 #include <sys/mount.h>
 #include <unistd.h>
@@ -28,12 +28,6 @@ struct MacosPreferences : testing::Test {
             EXPECT_EQ(object.owners, 0);
     }
 };
-
-std::string ask(std::string const& key) {
-    return key == locale_key ? macos.user_locale()
-           : key == user_key ? macos.user_language()
-                             : macos.application_language();
-}
 
 } // namespace
 
@@ -58,10 +52,10 @@ TEST(Macos, AVolumeTellsItsFlags) {
 }
 
 TEST(Macos, AModuleIsKnownByTheLoadersName) {
-    int const here = 0;
-    EXPECT_EQ((fake_module = "/x/lib.dylib", macos.module_path(&here)), "/x/lib.dylib");
-    EXPECT_EQ(macos.module_path(nullptr), "");
-    EXPECT_EQ((fake_module = nullptr, macos.module_path(&here)), "");
+    static int const in_this_program = 0;
+    int const on_the_stack = 0;
+    EXPECT_TRUE(std::filesystem::equivalent(macos.module_path(&in_this_program), "/proc/self/exe"));
+    EXPECT_EQ(macos.module_path(&on_the_stack) + macos.module_path(nullptr), "");
 }
 
 TEST(Macos, ADirectoryIsNotOpenedByALink) {
@@ -83,25 +77,26 @@ TEST_F(MacosPreferences, TheLocaleIsCanonicalLatin1OfAnyLength) {
 }
 
 TEST_F(MacosPreferences, WhatCannotBeReadIsEmpty) {
+    using services = fl::platform::services;
+    using objects = std::vector<fake_object const*>; // the first one can be
     auto* const text = fake_cf.string(u"de");
     auto* const list = fake_cf.array({text, fake_cf.string(u"fr")});
-    auto* const no_locale = fake_cf.string(u"\u65E5");
-    auto* const no_language = fake_cf.array({fake_cf.string(u"d\u00E9"), text});
-    std::map<std::string, std::vector<fake_object const*>> const values = {
-        // the first one can be
-        {locale_key, {text, nullptr, list, no_locale}},
-        {user_key, {list, nullptr, text, fake_cf.array({}), fake_cf.array({list}), no_language}},
-        {application_key, {list, nullptr, text, fake_cf.array({}), no_language}},
+    auto* const no_ascii = fake_cf.array({fake_cf.string(u"d\u00E9"), text});
+    objects const lists{list, nullptr, text, fake_cf.array({}), fake_cf.array({list}), no_ascii};
+    std::tuple<char const*, std::string (services::*)() const, objects> const rows[] = {
+        {locale_key, &services::user_locale, {text, nullptr, list, fake_cf.string(u"\u65E5")}},
+        {user_key, &services::user_language, lists},
+        {application_key, &services::application_language, lists},
     };
-    for (auto const& [key, all] : values) {
-        for (auto const* const value : all) {
+    for (auto const& [key, ask, values] : rows) {
+        for (auto const* const value : values) {
             fake_cf.preferences = {{key, value}};
-            EXPECT_EQ(ask(key), value == all[0] ? "de" : "") << key;
+            EXPECT_EQ((macos.*ask)(), value == values[0] ? "de" : "") << key;
         }
-        fake_cf.preferences = {{key, all[0]}};
+        fake_cf.preferences = {{key, values[0]}};
         for (char const* const call : {"preferences", "CFStringGetCString"}) {
             fake_cf.failing = call;
-            EXPECT_EQ(ask(key), "") << call;
+            EXPECT_EQ((macos.*ask)(), "") << key << call;
         }
         fake_cf.failing.clear();
     }

@@ -1,15 +1,17 @@
-// A fresh process for the tests of start-up: runs the commands that it gets as arguments, one after the other, and
-// prints what the process has come to.
-#include "locale_runtime/startup/discovery_run.hpp"
+// A fresh process for the tests of start-up: runs the commands that it gets as arguments, one after the
+// other, and prints what the process has come to.
+#include "locale_runtime/startup/preferences_double.hpp"
 
 #include <fl/i18n/java_vm_context.hpp>
 #include <fl/i18n/locale_context.hpp>
+#include <fl/i18n/locale_discovery.hpp>
 #include <fl/i18n/locale_status.hpp>
 #include <fl/i18n/startup.hpp>
 
 #include <unicode/locid.h>
 #include <unicode/ucnv.h>
 
+#include <clocale>
 #include <iostream>
 #include <langinfo.h>
 #include <locale>
@@ -23,25 +25,33 @@ extern "C" char const* __lsan_default_suppressions() { // NOLINT(bugprone-reserv
     return "leak:__argz_add_sep\n";
 }
 
+static bool std_locale_accepts() {
+    try {
+        std::locale const user("");
+        return true;
+    } catch (std::runtime_error const&) {
+        return false;
+    }
+}
+
 /// What the C library and the standard library have: alike in a process and in the children that it starts.
 static void print_c_locale() {
     std::cout << "environment " << fl::testing::environment() << "\nsetlocale";
     for (int const category : {LC_CTYPE, LC_COLLATE, LC_TIME, LC_NUMERIC, LC_MONETARY, LC_MESSAGES})
         std::cout << ' ' << std::setlocale(category, nullptr);
-    std::cout << "\ncodeset " << nl_langinfo(CODESET) << '\n';
-    try {
-        std::locale const user("");
-        std::cout << "std::locale accepted\n";
-    } catch (std::runtime_error const&) {
-        std::cout << "std::locale refused\n";
-    }
+    std::cout << "\ncodeset " << nl_langinfo(CODESET) << "\nstd::locale "
+              << (std_locale_accepts() ? "accepted\n" : "refused\n");
+}
+
+static std::string encodings(QnLocale const& locale) {
+    return locale.encoding() + ' ' +
+           std::get<std::string>(locale.getLcOptData(QnLcOptDataCtx::terminal_encoding));
 }
 
 static std::string describe(QnLocale const& locale) {
     return locale.shortName(QnLocale::ctype) + locale.modifier(QnLocale::ctype) + ' ' +
            locale.shortName(QnLocale::numeric) + ' ' + locale.shortName(QnLocale::messages) + ' ' +
-           locale.encoding() + ' ' +
-           std::get<std::string>(locale.getLcOptData(QnLcOptDataCtx::terminal_encoding)) + '\n';
+           encodings(locale) + '\n';
 }
 
 static void print_status() {
@@ -57,6 +67,70 @@ static void report() {
     std::cout << "ICU " << icu::Locale::getDefault().getName() << ' ' << ucnv_getDefaultName() << "\nglobal "
               << describe(QnLocale::global()) << "system " << describe(QnLocale::system());
     print_status();
+}
+
+/// What start-up has found: a locale for each category, the encodings, the status; then the environment, if
+/// the process and its children agree with it.
+static void print_outcome() {
+    QnLocale const& found = QnLocale::system();
+    for (int i = 0; i < 6; ++i) {
+        auto const category = static_cast<QnLocale::LcCategory>(i);
+        std::cout << found.shortName(category) + found.modifier(category) << ' ';
+    }
+    std::string const in_force = std::setlocale(LC_ALL, nullptr);
+    char const* const by_variables = std::setlocale(LC_ALL, ""); // null if it can't be
+    bool const agree = by_variables != nullptr && by_variables == in_force && std_locale_accepts() &&
+                       nl_langinfo(CODESET) == std::string("UTF-8");
+    std::cout << encodings(found) << ' ' << QnLcUtil::getLcStatus() << '\n'
+              << fl::testing::environment() << (agree ? "\n" : ", but the process has " + in_force + "\n");
+}
+
+/// In force from the first call on.
+static fl::testing::preferences_double& preferences() {
+    static fl::testing::preferences_double user;
+    return user;
+}
+
+/// Not the environment but these variables tell the user's preferences.
+static void prefer() {
+    auto const variable = [](char const* name) { return std::getenv(name) ? std::getenv(name) : ""; };
+    preferences().locale = variable("USER_LOCALE");
+    preferences().language = variable("USER_LANGUAGE");
+    preferences().application = variable("APPLICATION_LANGUAGE");
+    preferences().bare_names = std::getenv("BARE_NAMES") != nullptr;
+}
+
+static void print_information() {
+    for (auto const& [name, value] : QnLcUtil::getLocaleInformation())
+        std::cout << name << '=' << value << '\n';
+}
+
+static void print_original() {
+    auto const original = lcmgmt::get_original_user_locale_setting();
+    std::cout << "user " << original.NativeLocaleUser << '/' << original.NativeLanguageUser << '/'
+              << original.NativeLanguageAppl << '/' << original.XpgEncoding;
+    for (auto const& [name, value] : original.environment)
+        std::cout << ' ' << name << '=' << value;
+    for (auto const& [category, name] : original.categories)
+        std::cout << ' ' << category << '=' << name;
+    std::cout << '\n';
+}
+
+/// The categories in the order of their refusal.
+static void check_std_locale() {
+    std::map<int, char const*> const names = {
+        {std::locale::ctype, "ctype"},     {std::locale::collate, "collate"},
+        {std::locale::time, "time"},       {std::locale::messages, "messages"},
+        {std::locale::numeric, "numeric"}, {std::locale::monetary, "monetary"}};
+    std::cout << (lcmgmt::is_std_locale_valid() ? "valid" : "invalid");
+    for (int const category : lcmgmt::check_std_locale_valid())
+        std::cout << ' ' << names.at(category);
+    std::cout << ": " << fl::testing::environment() << '\n';
+}
+
+static void ruin_environment() {
+    for (char const* const name : fl::testing::locale_variables)
+        ::setenv(name, "no_such", 1);
 }
 
 static void print_java_settings() {
@@ -87,22 +161,15 @@ static void print_time_zone_directory() {
 
 /// False where the library refused.
 static bool steer(std::string const& verb, std::string const& argument) {
+    static std::map<std::string, void (*)()> const without_argument = {{"disable", disable_l10n_resource},
+                                                                       {"init", initLcMgmtSystem},
+                                                                       {"initialize", initialize},
+                                                                       {"lock", lock_global_locale_setting}};
     if (verb == "messages")
         return set_lc_messages(argument);
     if (verb == "replace")
         return experimental::set_global_locale(argument);
-    if (verb == "change")
-        change_global_locale(*QnLocale::createLocale(argument));
-    else if (verb == "disable")
-        disable_l10n_resource();
-    else if (verb == "lock")
-        lock_global_locale_setting();
-    else if (verb == "init")
-        initLcMgmtSystem();
-    else if (verb == "initialize")
-        initialize();
-    else
-        throw std::invalid_argument("no command: " + verb);
+    verb == "change" ? change_global_locale(*QnLocale::createLocale(argument)) : without_argument.at(verb)();
     return true;
 }
 
@@ -132,13 +199,24 @@ static void start() {
     skip_log();
 }
 
-static std::map<std::string, void (*)()> const commands = {{"java", print_java_settings},
-                                                           {"report", report},
-                                                           {"skip-log", skip_log},
-                                                           {"start", start},
-                                                           {"status", print_status},
-                                                           {"start-child", start_child},
-                                                           {"zones", print_time_zone_directory}};
+static std::map<std::string, void (*)()> const commands = {
+    {"check", check_std_locale},
+    {"information", print_information},
+    {"java", print_java_settings},
+    {"LC_TIME=C", [] { ::setenv("LC_TIME", "C", 1); }},
+    {"languages", [] { std::cout << "languages" << preferences().stored << '\n'; }},
+    {"mend", lcmgmt::fix_invalid_std_locale},
+    {"original", print_original},
+    {"outcome", print_outcome},
+    {"prefer", prefer},
+    {"report", report},
+    {"ruin", ruin_environment},
+    {"skip-log", skip_log},
+    {"start", start},
+    {"status", print_status},
+    {"start-child", start_child},
+    {"time-in-UTF-8", [] { std::setlocale(LC_TIME, "C.UTF-8"); }},
+    {"zones", print_time_zone_directory}};
 
 int main(int argc, char** argv) try {
     if (argc == 2 && argv[1] == std::string("child")) {

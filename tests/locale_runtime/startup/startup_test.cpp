@@ -1,9 +1,11 @@
-// Start-up and changes of the locale as processes meet them. The cases are transcripts, in *.transcript beside this file:
+// Start-up and changes of the locale as processes meet them. The cases are transcripts, in *.transcript
+// beside this file:
 //
 //     $ INSTALLED [NAME=VALUE ...] : COMMAND ...
 //     what the probe prints
 //
-// INSTALLED is an argument of locale_path. "{tree}" stands for the probe's install tree. An empty line ends a case.
+// INSTALLED is an argument of locale_path. "{tree}" stands for the probe's install tree. Lines that begin
+// with "#" are comments.
 #include "support/test_locales.hpp"
 
 #include <gtest/gtest.h>
@@ -20,7 +22,8 @@ static std::string with_tree(std::string text) {
     return text;
 }
 
-/// What the probe prints as a new process with these variables and no others; then "exit " and its status if that isn't
+/// What the probe prints as a new process with these variables and no others; then "exit " and its status if
+/// that isn't
 /// 0. The variable PROBE names the program.
 static std::string run_probe(std::string const& installed, std::string const& variables,
                              std::string const& commands) {
@@ -41,28 +44,26 @@ class Startup : public testing::TestWithParam<char const*> {};
 TEST_P(Startup, GoesAsInTheTranscript) {
     ::mkfifo(FL_I18N_PROBE_TREE "/fifo", 0600); // it may be there from an earlier run
     std::ifstream file(std::string(FL_I18N_TRANSCRIPTS) + "/" + GetParam() + ".transcript");
-    int cases = 0, left_out = 0;
-    for (std::string line; std::getline(file, line);) {
-        if (!line.starts_with("$ "))
-            continue;
-        std::string const title = line;
-        std::string expected;
-        while (std::getline(file, line) && !line.empty())
-            expected += line + "\n";
-        ++cases;
-        auto const blank = title.find(' ', 2);
-        auto const colon = title.find(" : ");
-        std::string const installed = title.substr(2, blank - 2);
+    std::vector<std::pair<std::string, std::string>> cases; // the line of the call, and what is printed
+    for (std::string line; std::getline(file, line);)
+        if (line.starts_with("$ "))
+            cases.emplace_back(line, "");
+        else if (!line.empty() && line[0] != '#')
+            cases.back().second += line + "\n";
+    EXPECT_GT(cases.size(), 2U) << "where are the transcripts?";
+    int left_out = 0;
+    for (auto const& [call, expected] : cases) {
+        auto const blank = call.find(' ', 2), colon = call.find(" : ");
+        std::string const installed = call.substr(2, blank - 2);
         if (installed != "none" && !has_test_locales())
             ++left_out;
         else
-            EXPECT_EQ(run_probe(installed, title.substr(blank, colon - blank), title.substr(colon + 3)),
+            EXPECT_EQ(run_probe(installed, call.substr(blank, colon - blank), call.substr(colon + 3)),
                       with_tree(expected))
-                << title;
+                << call;
     }
-    EXPECT_GT(cases, 3) << "where are the transcripts?";
     if (left_out > 0)
         GTEST_SKIP() << left_out << " cases left out: " << no_test_locales;
 }
 
-INSTANTIATE_TEST_SUITE_P(All, Startup, testing::Values("users", "startup", "steering"));
+INSTANTIATE_TEST_SUITE_P(All, Startup, testing::Values("users", "startup", "steering", "discovery"));

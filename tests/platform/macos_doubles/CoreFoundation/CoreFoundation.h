@@ -115,16 +115,18 @@ inline fake_object const kCFPreferencesAnyApplication[] = {{1, u"any application
 inline fake_object const kCFPreferencesCurrentUser[] = {{1, u"current user"}};
 inline fake_object const kCFPreferencesAnyHost[] = {{1, u"any host"}};
 
-inline CFPropertyListRef fake_preference(std::string const& name) {
+inline CFPropertyListRef fake_preference(std::vector<CFStringRef> const& key_and_owners) {
+    std::string name;
+    for (CFStringRef const part : key_and_owners)
+        name += (name.empty() ? "" : ", ") + fake_text(part);
     return fake_cf.give("preferences", fake_cf.preferences[name]);
 }
 inline CFPropertyListRef CFPreferencesCopyAppValue(CFStringRef key, CFStringRef application) {
-    return fake_preference(fake_text(key) + ", " + fake_text(application));
+    return fake_preference({key, application});
 }
 inline CFPropertyListRef CFPreferencesCopyValue(CFStringRef key, CFStringRef application, CFStringRef user,
                                                 CFStringRef host) {
-    return fake_preference(fake_text(key) + ", " + fake_text(application) + ", " + fake_text(user) + ", " +
-                           fake_text(host));
+    return fake_preference({key, application, user, host});
 }
 inline void CFPreferencesSetAppValue(CFStringRef key, CFPropertyListRef value, CFStringRef application) {
     fake_cf.stored.push_back(fake_text(key) + ", " + fake_text(application));
