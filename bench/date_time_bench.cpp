@@ -7,8 +7,10 @@
 #include <boost/date_time/posix_time/posix_time.hpp>
 #include <unicode/timezone.h>
 
+#include <locale>
 #include <memory>
 #include <random>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -98,6 +100,27 @@ void register_text(std::string const& name, date_time::DateFormat format, std::s
         });
 }
 
+/// A format string, against a stream that has the facet already.
+void register_format(std::string const& name, std::string const& format) {
+    auto const with = std::make_shared<times>();
+    auto const stream = std::make_shared<std::ostringstream>();
+    stream->imbue(std::locale(std::locale::classic(), new boost::posix_time::time_facet(format.c_str())));
+    compare(
+        name, 0,
+        [with, format](benchmark::State& state) {
+            for_each(state, with->ptimes, [&](ptime const& t) { return date_time::to_ustring(t, format); });
+        },
+        "kept_stream_and_widening",
+        [with, stream](benchmark::State& state) {
+            for_each(state, with->ptimes, [&](ptime const& t) {
+                stream->str("");
+                *stream << t;
+                std::string const text = stream->str();
+                return fl::ustring(text.begin(), text.end());
+            });
+        });
+}
+
 } // namespace
 
 void register_date_time_benchmarks() {
@@ -110,6 +133,7 @@ void register_date_time_benchmarks() {
     register_text("date_time/to_ustring/iso", date_time::DATE_FORMAT_ISO, boost::posix_time::to_iso_string);
     register_text("date_time/to_ustring/iso_extended", date_time::DATE_FORMAT_ISO_EXTENDED,
                   boost::posix_time::to_iso_extended_string);
+    register_format("date_time/to_ustring/format", "%d.%m.%Y %H:%M");
 }
 
 } // namespace bench
