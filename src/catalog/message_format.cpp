@@ -36,9 +36,9 @@ std::int32_t icu_length(std::size_t length) {
 /// a level. This many fit a thread with a stack of 256 KB, and no real message comes near.
 constexpr int most_complex_arguments = 50;
 
-/// True if one of the words that begin an argument with patterns in it stands at the start of `text`.
+/// True if one of the words for an argument with patterns in it stands at the start of `text`.
 /// "selectordinal" begins with one of them.
-bool begins_complex_argument(icu::UnicodeString const& text) {
+bool is_complex_type(icu::UnicodeString const& text) {
     static constexpr std::u16string_view words[] = {u"select", u"plural", u"choice"};
     return std::any_of(std::begin(words), std::end(words), [&](std::u16string_view word) {
         auto const length = static_cast<std::int32_t>(word.size());
@@ -46,17 +46,41 @@ bool begins_complex_argument(icu::UnicodeString const& text) {
     });
 }
 
-/// Each level of arguments takes such a word behind a comma. They are counted wherever they stand, side by
-/// side too: only ICU knows what is quoted.
+bool is_white_space(char16_t unit) {
+    return u_hasBinaryProperty(unit, UCHAR_PATTERN_WHITE_SPACE);
+}
+
+bool is_in_name(char16_t unit) {
+    return !is_white_space(unit) && !u_hasBinaryProperty(unit, UCHAR_PATTERN_SYNTAX);
+}
+
+/// argument = "{" [white space] name [white space] "," ...
+bool ends_argument_name(icu::UnicodeString const& pattern, std::int32_t comma) {
+    std::int32_t i = comma - 1;
+    while (i >= 0 && is_white_space(pattern[i]))
+        --i;
+    while (i >= 0 && is_in_name(pattern[i]))
+        --i;
+    while (i >= 0 && is_white_space(pattern[i]))
+        --i;
+    return i >= 0 && pattern[i] == u'{';
+}
+
+bool begins_complex_argument(icu::UnicodeString const& pattern, std::int32_t comma) {
+    if (!ends_argument_name(pattern, comma))
+        return false;
+    std::int32_t word = comma + 1;
+    while (word < pattern.length() && is_white_space(pattern[word]))
+        ++word;
+    return is_complex_type(pattern.tempSubString(word, 6));
+}
+
+/// They are counted side by side too, and in quotes: only ICU knows what is quoted.
 void check_complexity(icu::UnicodeString const& pattern) {
     int count = 0;
-    for (std::int32_t comma = pattern.indexOf(u','); comma >= 0; comma = pattern.indexOf(u',', comma + 1)) {
-        std::int32_t word = comma + 1;
-        while (u_hasBinaryProperty(pattern.char32At(word), UCHAR_PATTERN_WHITE_SPACE))
-            ++word;
-        if (begins_complex_argument(pattern.tempSubString(word, 6)) && ++count > most_complex_arguments)
+    for (std::int32_t comma = pattern.indexOf(u','); comma >= 0; comma = pattern.indexOf(u',', comma + 1))
+        if (begins_complex_argument(pattern, comma) && ++count > most_complex_arguments)
             support::raise(MessageCatalog::MessageFormatIncorrect());
-    }
 }
 
 /// The number at the start of a name; what follows the digits is not looked at, but has to be ASCII.

@@ -1,19 +1,10 @@
 #include <fl/i18n/message_id_completion.hpp>
 
-#include <algorithm>
 #include <cstring>
 #include <string_view>
 #include <utility>
 
 namespace fl::i18n {
-
-namespace {
-
-bool is_ascii(std::string_view text) noexcept {
-    return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-}
-
-} // namespace
 
 MetaInfoExpatEventHandler::MetaInfoExpatEventHandler(
     ustring const& head, boost::shared_ptr<boost::unordered::unordered_set<ustring>> keys)
@@ -38,7 +29,7 @@ bool MetaInfoExpatEventHandler::process_entry_tag(char const** attributes) {
         if (std::string_view(*attributes++) != "key")
             continue;
         char const* const key = *attributes;
-        if (!key || !is_ascii(key))
+        if (!key)
             return false;
         keys_->insert(widen_.convert(key, std::strlen(key)));
         ++attributes;

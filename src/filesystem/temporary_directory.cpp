@@ -18,8 +18,8 @@
 namespace fl::filesystem {
 namespace {
 
-/// Empty for a variable that is unset and for what can be no variable's name: of "A=b=c" in the environment,
-/// getenv(3) takes "A=b" for a name.
+/// `fl::i18n::getenv` belongs to a layer above. Empty for a variable that is unset and for what can be no
+/// variable's name: of "A=b=c" in the environment, getenv(3) takes "A=b" for a name.
 ustring environment_value(std::string const& name) {
     bool const is_name = name.find_first_of(std::string_view("=\0", 2)) == name.npos;
     char const* const value = is_name ? std::getenv(name.c_str()) : nullptr;

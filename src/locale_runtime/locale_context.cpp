@@ -71,7 +71,7 @@ void QnLocaleCtx::initQnLcCtx() {
 }
 
 void QnLocaleCtx::make_classic_slot() {
-    auto locale = std::make_unique<QnLocaleImpl>(database());
+    auto locale = std::make_unique<QnLocaleImpl>(database_);
     locale->setLcName(built_in_locale, "");
     locale->setEncoding(built_in_encoding);
     QnLocale const* const made = locale.get();
@@ -82,7 +82,7 @@ void QnLocaleCtx::make_classic_slot() {
 
 // Its final content comes at the end of start-up, and only then is it handed out.
 void QnLocaleCtx::make_system_locale() {
-    auto locale = std::make_unique<QnLocaleImpl>(database());
+    auto locale = std::make_unique<QnLocaleImpl>(database_);
     locale->setLcName(built_in_locale, "");
     locale->setLcName("en_US", "", QnLocale::messages);
     locale->setEncoding(built_in_encoding);

@@ -21,27 +21,31 @@ std::string text_or_empty(char const* text) {
 
 } // namespace
 
-QnLocaleImpl::QnLocaleImpl(lcmgmt::locale_database const& database) : database_(&database) {}
+QnLocaleImpl::QnLocaleImpl(lcmgmt::locale_database const& database) : own_database_(&database) {}
+
+QnLocaleImpl::QnLocaleImpl(std::atomic<lcmgmt::locale_database const*> const& database_in_force)
+    : database_in_force_(&database_in_force) {}
 
 QnLocaleImpl::QnLocaleImpl(std::string const& name)
-    : QnLocaleImpl(lcmgmt::get_qnlocale_context()->database()) {
+    : QnLocaleImpl(lcmgmt::get_qnlocale_context()->database_in_force()) {
     if (name.empty())
         support::raise(QnLcInvLcArgument());
     std::string const short_name = lcmgmt::LcData::extract_short_name(name);
-    std::string const resolved = database_->get_locale_name(short_name);
+    std::string const resolved = database().get_locale_name(short_name);
     if (resolved.empty())
         support::raise(QnLcInvLcName(short_name));
     auto const element = lcmgmt::decompose_locale_name(name);
     setLcName(resolved, element.modifiers());
     if (!element.encoding.empty())
-        encoding_ = lcmgmt::checked_encoding_name(*database_, element.encoding);
+        encoding_ = lcmgmt::checked_encoding_name(database(), element.encoding);
     else if (resolved == posix_locale)
         encoding_ = "UTF-8";
     else
-        encoding_ = text_or_empty(database_->get_default_encoding_name(resolved));
+        encoding_ = text_or_empty(database().get_default_encoding_name(resolved));
 }
 
-QnLocaleImpl::QnLocaleImpl(QnLocale const& other) : QnLocaleImpl(lcmgmt::get_qnlocale_context()->database()) {
+QnLocaleImpl::QnLocaleImpl(QnLocale const& other)
+    : QnLocaleImpl(lcmgmt::get_qnlocale_context()->database_in_force()) {
     for (std::size_t i = 0; i < categories_.size(); ++i)
         categories_[i] = {other.shortName(category_at(i)), other.modifier(category_at(i))};
     encoding_ = other.encoding();
@@ -67,7 +71,7 @@ void QnLocaleImpl::setLcName(std::string const& name, std::string const& modifie
 
 void QnLocaleImpl::check_name(std::string const& name) const {
     std::string const short_name = lcmgmt::LcData::extract_short_name(name);
-    if (database_->get_locale_name(short_name).empty())
+    if (database().get_locale_name(short_name).empty())
         support::raise(QnLcInvLcName(short_name));
 }
 
@@ -131,7 +135,11 @@ std::string QnLocaleImpl::encoding() const {
 }
 
 std::string QnLocaleImpl::localeSpecificEncoding() const {
-    return text_or_empty(database_->get_default_encoding_name(at(ctype).short_name));
+    return text_or_empty(database().get_default_encoding_name(at(ctype).short_name));
+}
+
+lcmgmt::locale_database const& QnLocaleImpl::database() const noexcept {
+    return own_database_ ? *own_database_ : *database_in_force_->load(std::memory_order_acquire);
 }
 
 } // namespace fl::i18n

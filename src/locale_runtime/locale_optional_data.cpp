@@ -52,7 +52,7 @@ std::string QnLocaleImpl::terminal_or_text_encoding() const {
 lc_opt_data_value QnLocaleImpl::getLcOptData(QnLcOptDataCtx::LcOptDataType type) const {
     switch (type) {
     case QnLcOptDataCtx::jvm_encoding: {
-        char const* const name = database_->get_jvm_encoding_name(encoding_);
+        char const* const name = database().get_jvm_encoding_name(encoding_);
         return std::string(name ? name : "");
     }
     case QnLcOptDataCtx::terminal_encoding:

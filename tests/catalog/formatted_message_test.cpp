@@ -28,15 +28,12 @@ static holes texts(std::ptrdiff_t count) {
 TEST(GetFormattedMessage, FillsHolesInTheOrderOfTheirNumbers) {
     using row = std::tuple<ustring, holes, ustring>;
     for (auto const& [message, values, text] :
-         {row(u"plain", holes(), u"plain"), row(u"it's 'quoted'", holes(), u"it's 'quoted'"),
-          row(u"it''s", holes(), u"it's"), row(u"'{0}' {0}", texts(1), u"{0} A"),
-          row(u"{0} and {0}", texts(1), u"A and A"), row(u"{2} {0}", texts(2), u"B A"),
-          row(u"{10} {9}", texts(2), u"B A"), row(u"{b} {a}", texts(2), u"A B"),
-          row(u"{1_b} {1_b} {1_a} {0_c}", texts(3), u"B B C A"),
+         {row(u"it's 'quoted'", holes(), u"it's 'quoted'"), row(u"it''s", holes(), u"it's"),
+          row(u"'{0}' {0}", texts(1), u"{0} A"), row(u"{0} and {0}", texts(1), u"A and A"),
+          row(u"{2} {0}", texts(2), u"B A"), row(u"{10} {9}", texts(2), u"B A"),
+          row(u"{b} {a}", texts(2), u"A B"), row(u"{1_b} {1_b} {1_a} {0_c}", texts(3), u"B B C A"),
           row(u"{0,select,A{a}other{b}}", texts(1), u"a"),
-          row(u"{0} {0,number}", holes{-1234567LL}, u"-1234567 -1234567"),
           row(u"{0,number,#,##0}", holes{1234567LL}, u"1,234,567"),
-          row(u"{0,choice,0#none|1#one|1<{0} files}", holes{3LL}, u"3 files"),
           row(u"{0}", holes{std::numeric_limits<long long>::min()}, u"-9223372036854775808"),
           row(u"{0}{1}", holes{"\xC3\xA4\xFF"s, u"\U0001F600"s}, u"\u00e4\uFFFD\U0001F600")})
         EXPECT_EQ(format(message, values), text) << testing::PrintToString(message);
@@ -63,7 +60,6 @@ TEST(GetFormattedMessage, RefusesBadPatternsAndNames) {
         EXPECT_EQ(failure<FormatIncorrect>(format, message, texts(1)),
                   "Incorrect Message Formatting Attempted")
             << testing::PrintToString(message);
-    EXPECT_THROW(MessageCatalogImpl::getFormattedMessage(u"{a} {0}", holes()), FormatIncorrect);
     EXPECT_THROW(format(u"{_x}", texts(1)), std::invalid_argument);
     EXPECT_THROW(format(u"{99999999999999999999_x}", texts(1)), std::out_of_range);
     EXPECT_THROW(format(u"{1\u00e4}", texts(1)), CvtInvalidCharacter);
@@ -78,9 +74,13 @@ TEST(GetFormattedMessage, RefusesPatternsThatWouldOutgrowTheStack) {
     ustring const select = u"{0,select,other{";
     EXPECT_EQ(format(nested(select, 50), texts(1)), u"}") << "the last brace stands outside";
     for (ustring const& pattern :
-         {nested(select, 51), nested(select, 20000), nested(select, 20000, ustring(40010, u'}')),
+         {nested(select, 51), nested(select, 20000, ustring(40010, u'}')),
           nested(u"{0 , SELECT, other{", 20000, u"{0,select,other{a'b"), nested(u"{0,choice,0#", 20000)})
         EXPECT_THROW(format(pattern, texts(1)), FormatIncorrect) << pattern.size();
+    ustring talk;
+    while (talk.size() < 2000)
+        talk += u"first open it, select a row. ";
+    EXPECT_EQ(format(talk, texts(0)), talk) << "no argument";
 }
 
 TEST(GetFormattedMessageByFunction, FillsEachHoleOnceOrFails) {
@@ -92,17 +92,12 @@ TEST(GetFormattedMessageByFunction, FillsEachHoleOnceOrFails) {
     hole_fill_function const none, fails = [](holes&, auto const&) { throw std::range_error("fill"); };
     EXPECT_EQ(format(u"{1_date} {0} {2_time} {0}", 3U, fill), u"date! ! time! !");
     EXPECT_EQ(calls, u"0;date1;time2;");
-    EXPECT_EQ(format(u"it''s", 0U, none), u"it's");
     EXPECT_EQ(format(u"it''s {a}", 0U, none), u"it''s {a}") << "not formatted";
     EXPECT_EQ(format(u"{0}", 1U, [](holes& values, auto const&) { values.clear(); }), u"{0}");
     EXPECT_THROW(format(u"{0}", 1U, none), FormatIncorrect);
-    EXPECT_THROW(format(u"{0}", 0U, none), HoleCount);
     EXPECT_THROW(format(u"{0}", 2U, fails), HoleCount);
-    EXPECT_THROW(format(u"{a} {b}", 2U, fails), HoleCount);
     EXPECT_THROW(format(u"{0}", 1U, fails), std::range_error);
     EXPECT_THROW(format(u"{4294967296_x}", 1U, fails), boost::numeric::positive_overflow);
-    holes one{1LL};
-    EXPECT_THROW(MessageCatalogImpl::GetFormattedMessageImpl(u"{0}", one, none), std::bad_function_call);
 }
 
 TEST(GetCustomHoleType, FindsByTheNumberInTheName) {

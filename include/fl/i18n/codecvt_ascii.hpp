@@ -29,7 +29,8 @@ protected:
     /// `src_len`, as a byte count. The text is checked, and can raise, only when nothing is substituted.
     unsigned long do_get_destination_size(char16_t const* src, unsigned long src_len) const override;
     std::string do_convert(char16_t const* src, unsigned long src_len) const override;
-    /// Converts from the first unit to the last, so that a buffer can be narrowed in place.
+    /// Converts from the first unit to the last, so that a buffer can be narrowed in place. Where it throws,
+    /// nothing has been written.
     unsigned long do_convert(char* dst, unsigned long dst_len, char16_t const* src,
                              unsigned long src_len) const override;
 

@@ -4,7 +4,7 @@
 /// Derive from `ExpatEventHandler`, give an object to an `ExpatLoader`, and call `load_file`. A handler stops
 /// the parse by returning false, and then sees no further event.
 ///
-///     auto handler = boost::make_shared<my_handler>();
+///     boost::shared_ptr<my_handler> const handler(new my_handler);
 ///     bool const complete = fl::i18n::ExpatLoader(path, handler).load_file();
 ///
 /// All names, values and text that a handler sees are UTF-8, whatever the encoding of the file. The parser's

@@ -89,8 +89,10 @@ public:
     static std::unique_ptr<QnLocaleCtx> make();
 
     /// The database in force. Start-up replaces the built-in one by one that the XML database has corrected;
-    /// the former one stays as it is, for the locales made on it and for those who are reading it.
+    /// the former one stays as it is, for those who are reading it.
     locale_database const& database() const noexcept { return *database_.load(std::memory_order_acquire); }
+    /// For locales, which ask the database that is in force, whenever they were made.
+    std::atomic<locale_database const*> const& database_in_force() const noexcept { return database_; }
     LcStatusCtx const& status() const noexcept { return status_; }
 
     /// The result of `action(record)`, called with the context's mutex held, where `record` is the

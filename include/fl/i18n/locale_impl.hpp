@@ -17,6 +17,7 @@
 #include <fl/i18n/locale.hpp>
 
 #include <array>
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -33,6 +34,9 @@ class FL_I18N_EXPORT QnLocaleImpl final : public QnLocale {
 public:
     /// A locale whose names and encodings are all empty. `database` must outlive it.
     explicit QnLocaleImpl(lcmgmt::locale_database const& database);
+    /// The same on the database that is in force at each use (`QnLocaleCtx::database_in_force`), as the
+    /// constructors below have it.
+    explicit QnLocaleImpl(std::atomic<lcmgmt::locale_database const*> const& database_in_force);
     /// As `QnLocale::createLocale(name)`.
     explicit QnLocaleImpl(std::string const& name);
     /// As `QnLocale::createLocale(other)`: names are copied without a check. The terminal encoding becomes
@@ -89,7 +93,10 @@ private:
     void store(std::string const& name, std::string const& modifier, std::size_t index);
     std::string terminal_or_text_encoding() const;
 
-    lcmgmt::locale_database const* database_;
+    lcmgmt::locale_database const& database() const noexcept;
+
+    lcmgmt::locale_database const* own_database_ = nullptr; // null if the one in force counts
+    std::atomic<lcmgmt::locale_database const*> const* database_in_force_ = nullptr;
     std::array<category_record, 6> categories_;
     std::string encoding_;
     std::string terminal_encoding_;

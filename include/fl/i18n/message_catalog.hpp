@@ -188,9 +188,8 @@ public:
     ///
     /// A message with named holes takes no values by this form; it comes back unformatted if `holeCount` is
     /// 0. The list is made first: an absurd `holeCount` throws `std::length_error` or `std::bad_alloc`.
-    ///    Throws
-    /// as the form above, `MessageFormatIncorrect` if `holeCount` is not 0 and `fill` is empty, and
-    /// `boost::numeric::positive_overflow` for a hole number of 2^31 or more.
+    /// Otherwise throws as the form above, `MessageFormatIncorrect` if `holeCount` is not 0 and `fill` is
+    /// empty, and `boost::numeric::positive_overflow` for a hole number of 2^31 or more.
     static ustring GetFormattedMessage(ustring const& message, unsigned long holeCount,
                                        hole_fill_function const& fill);
 

@@ -44,9 +44,9 @@ struct message_id_completions {
 /// nothing is typed behind the colon. Reads the disk at every call. Thread-safe.
 FL_I18N_EXPORT message_id_completions getMessageIdCompletions(ustring const& input);
 
-/// Collects the keys of map files. One object reads several files, one after the other, up to the first that
-/// it refuses (an element out of place, a key that is not ASCII) or that breaks off inside its root element:
-/// what stands before that counts, and nothing behind it, further files included.
+/// Collects the keys of map files. One object reads several files, one after the other, up to the first with
+/// an element out of place or that breaks off inside its root element: what stands before that counts, and
+/// nothing behind it, further files included. A key outside ASCII throws `CvtInvalidCharacter`.
 class FL_I18N_EXPORT MetaInfoExpatEventHandler : public ExpatEventHandler {
 public:
     /// `head` is kept for the record and decides nothing. `keys` receives the keys, widened; shared with the

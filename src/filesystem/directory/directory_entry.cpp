@@ -54,7 +54,7 @@ ustring upath_directory_entry::full_pathname() const {
 }
 
 std::uint32_t upath_directory_entry::type() const {
-    std::uint32_t const type = detail::type_of(DTTOIF(record_->type));
+    std::uint32_t const type = detail::type_of(static_cast<mode_t>(DTTOIF(record_->type)));
     return type != file_status::file_type_unknown ? type : symlink_status().kind();
 }
 

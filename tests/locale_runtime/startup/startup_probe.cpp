@@ -201,6 +201,7 @@ static void start() {
 
 static std::map<std::string, void (*)()> const commands = {
     {"check", check_std_locale},
+    {"classic", [] { std::cout << "classic " << QnLocale::classic().localeSpecificEncoding() << '\n'; }},
     {"information", print_information},
     {"java", print_java_settings},
     {"LC_TIME=C", [] { ::setenv("LC_TIME", "C", 1); }},
