@@ -7,10 +7,8 @@
 #include <fl/i18n/locale.hpp>
 
 #include <gtest/gtest.h>
-#include <unicode/uclean.h>
 #include <unicode/ustring.h>
 
-#include <atomic>
 #include <iostream>
 #include <random>
 #include <sstream>
@@ -38,9 +36,7 @@ static std::string system_encoding() {
 // The environment is read once: each of the following runs in a process of its own.
 
 TEST(CharsetDetection, AnswersByRuleOrStatistics) {
-    std::atomic<int> wrong{0};
-    fl::testing::run_in_threads(8, [&](int) { wrong += detect(japanese) != "Shift_JIS"; });
-    EXPECT_EQ(0, wrong);
+    fl::testing::run_in_threads(8, [](int) { EXPECT_EQ("Shift_JIS", detect(japanese)); });
     std::pair<std::string, std::string> const rows[] = {
         {"", "UTF-8"},
         {"plain", "UTF-8"},
@@ -50,10 +46,8 @@ TEST(CharsetDetection, AnswersByRuleOrStatistics) {
         {std::string("\0\xFF\0B", 4), system_encoding()},
         {std::string("\0B\0e\0g\0i\0n\0s\0w\0i\0t\0h\0N\0U\0L", 26), "UTF-16BE"},
         {std::string(64, 'x') + noise + std::string("\0", 1), system_encoding()}};
-    std::ostringstream silent;
     for (auto const& [bytes, expected] : rows)
-        EXPECT_EQ(expected, detect(bytes, std::move(silent))) << testing::PrintToString(bytes.substr(0, 40));
-    EXPECT_EQ("", silent.str());
+        EXPECT_EQ(expected, detect(bytes)) << testing::PrintToString(bytes.substr(0, 40));
     EXPECT_EQ("UTF-8", detect_charset(nullptr, 9, std::cout, u""));
     setenv("QN_NO_CHARSET_DETECTION", "", 1); // too late
     EXPECT_EQ("Shift_JIS", detect(japanese));
@@ -66,7 +60,6 @@ TEST(CharsetDetection, VariablesChangeTheAnswers) {
         {"QN_USE_DEFAULT_CHARSET_FOR_ASCII", "", std::string("plain\0", 6), system_encoding()},
         {"QN_USE_DEFAULT_CHARSET_FOR_ASCII", "", std::string("pl\0ain", 6), "UTF-8"}, // no ASCII
         {"QN_NO_CHARSET_DETECTION", "0", japanese, "UTF-8"},
-        {"QN_NO_CHARSET_DETECTION", "0", noise, "UTF-8"},
         {"QN_CHARSET_DETECT_THRESHOLD", "12", french, "ISO-8859-1"},
         {"QN_CHARSET_DETECT_THRESHOLD", "17", french, system_encoding()},
         {"QN_CHARSET_DETECT_UTF8_THRESHOLD", "80", damaged_utf8, "UTF-8"}, // has a confidence of 80
@@ -75,13 +68,10 @@ TEST(CharsetDetection, VariablesChangeTheAnswers) {
         EXPECT_EXIT((setenv(variable, value, 1), std::exit(detect(bytes) != expected)),
                     testing::ExitedWithCode(0), "")
             << variable << value << testing::PrintToString(bytes);
-    std::pair<char const*, int> const thresholds[] = {{"1", 1},    {"100", 100}, {" 55x", 55}, {"0", 90},
-                                                      {"101", 90}, {"x", 90},    {nullptr, 90}};
+    std::pair<char const*, int> const thresholds[] = {{"1", 1},  {"100", 100}, {" 55x", 55},
+                                                      {"0", 90}, {"101", 90},  {nullptr, 90}};
     for (auto const& [text, expected] : thresholds)
         EXPECT_EQ(expected, detail::threshold_or(text, 90)) << (text ? text : "null");
-    detect(""); // needs no detector, so that the threshold is still to be read
-    setenv("QN_CHARSET_DETECT_UTF8_THRESHOLD", "81", 1);
-    EXPECT_EQ(system_encoding(), detect(damaged_utf8));
 }
 
 TEST(CharsetDetection, DiagnosticsTellTheSteps) {
@@ -93,24 +83,6 @@ TEST(CharsetDetection, DiagnosticsTellTheSteps) {
     EXPECT_EQ("Validated encoding: UTF-8\nAutodetecting encoding for caf\u00e9\nMatch[0] (100) UTF-16LE\n"
               "Match[1] (10) UTF-16BE\nMatch[2] (10) Shift_JIS\nMatch[3] (10) GB18030\nMatch[4] (10) Big5\n"
               "Detected encoding: UTF-16LE\n",
-              told.str());
-}
-
-static bool is_memory_short = false;
-
-TEST(CharsetDetection, AFailureOfIcuIsToldAndEndsInTheFallback) {
-    UErrorCode status = U_ZERO_ERROR;
-    u_setMemoryFunctions(
-        nullptr, [](void const*, std::size_t size) { return is_memory_short ? nullptr : std::malloc(size); },
-        [](void const*, void* block, std::size_t size) { return std::realloc(block, size); },
-        [](void const*, void* block) { std::free(block); }, &status);
-    ASSERT_EQ(U_ZERO_ERROR, status);
-    is_memory_short = true;
-    std::ostringstream told;
-    EXPECT_EQ("fallback", detail::guess_charset(japanese, {}, "fallback", &told));
-    is_memory_short = false;
-    EXPECT_EQ("uscdet_open returned error: [7]\nuscdet_setText returned error: [7]\n"
-              "uscdet_detectAll returned error: [7]\n",
               told.str());
 }
 

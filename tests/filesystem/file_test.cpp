@@ -1,3 +1,4 @@
+#include "filesystem/primitives/error_number.hpp"
 #include "support/temp_tree.hpp"
 
 #include <fl/filesystem/boost_path.hpp>
@@ -29,6 +30,33 @@ static int outcome(std::FILE* file) {
     bool const expected = std::fgets(text, sizeof text, file) != nullptr && text == "content"s;
     std::fclose(file);
     return expected ? 0 : -1;
+}
+
+TEST(File, EachErrorNumberHasItsClassAndGoesBack) {
+    // The last is the way back, 0 for none.
+    std::tuple<int, std::string, std::int32_t, int> const rows[] = {
+        {EINVAL, "InvalidArgument", 1, EINVAL},
+        {ENOTSUP, "InvalidArgument", 1, EINVAL},
+        {EACCES, "AccessDenied", 6, EACCES},
+        {ENOENT, "PathNotFound", 7, ENOENT},
+        {ENOTDIR, "NotDirectoryError", 8, ENOTDIR},
+        {ENOTEMPTY, "DirectoryNotEmpty", 9, ENOTEMPTY},
+        {EISDIR, "FileIsDirectory", 10, 0},
+        {EEXIST, "FileExistsError", 11, EEXIST},
+        {ELOOP, "SystemError", 13, EIO},
+        {ENAMETOOLONG, "FileNameTooLarge", 3, ENAMETOOLONG}};
+    for (auto const& [error, id, code, back] : rows) {
+        SCOPED_TRACE(id);
+        try {
+            detail::throw_errno(error, "/caf\xC3\xA9", "/raw\xFF");
+        } catch (FsysExceptionBase const& failure) {
+            EXPECT_EQ(failure.what(), "fl:filesystem:" + id);
+            EXPECT_EQ(failure.code(), code);
+            EXPECT_EQ(failure.path(), "/caf\xC3\xA9");
+            EXPECT_EQ(failure.arguments(), std::vector<std::string>{"/raw\xC3\xBF"}) << "shown byte by byte";
+            EXPECT_TRUE(back == 0 || detail::errno_of_current_exception() == back);
+        }
+    }
 }
 
 TEST(File, RefusesArgumentsInOrder) {
@@ -66,6 +94,7 @@ TEST(File, OpensNamesOfAnyLengthThroughEveryForm) {
         EXPECT_EQ(outcome(freopen(upath(name), "r", std::tmpfile())), 0);
         EXPECT_EQ(outcome(freopen(name, "r", std::tmpfile(), strict)), 0);
     }
+    EXPECT_EQ(to_generic_ustring("/caf\xC3\xA9//\xFF"), u"/caf\u00E9//\uFFFD");
     std::string word;
     EXPECT_TRUE(basic_ifstream<char>(detail::make_native_access_form_i18n(tree.text(u"caf\u00E9"))) >> word);
     EXPECT_EQ(word, "content");
@@ -75,14 +104,7 @@ TEST(File, OpensNamesOfAnyLengthThroughEveryForm) {
     EXPECT_EQ(outcome(fopen(tree.text(u"a\xD800"), "r", strict)), ENOENT);
 }
 
-TEST(File, BoostPathsAreReadAsUtf8) {
-    codecvt_filesystem_to_ustring const strict_in(false);
-    EXPECT_EQ(to_ustring("/caf\xC3\xA9//\xFF"), u"/caf\u00E9//\uFFFD");
-    EXPECT_EQ(to_generic_ustring("/caf\xC3\xA9//\xFF"), u"/caf\u00E9//\uFFFD");
-    EXPECT_THROW(to_generic_ustring("\xFF/", strict_in), CvtInvalidCharacter);
-}
-
-TEST(File, LastWriteTimeIsReadBackToTheMicrosecond) {
+TEST(File, LastWriteTimeIsReadBackToTheMicrosecondOrRefused) {
     fl::testing::temp_tree const tree;
     std::filesystem::path const file = tree.file("f");
     ptime const accessed = status(tree.text(u"f")).access_time;
@@ -98,19 +120,14 @@ TEST(File, LastWriteTimeIsReadBackToTheMicrosecond) {
         EXPECT_TRUE(::stat(file.c_str(), &record) == 0 && record.st_mtime == seconds) << text;
     }
     EXPECT_EQ(status(tree.text(u"f")).access_time, accessed);
-}
-
-TEST(File, LastWriteTimeRefusesInOrder) {
-    auto const refusal = [](ustring const& name) {
+    for (auto const& [name, message] :
+         {std::pair(u"", "Empty Path not permitted"), {u"x", "Time is not a ptime"}})
         try {
-            last_write_time(name, ptime());
+            last_write_time(ustring(name), ptime());
+            ADD_FAILURE() << message;
         } catch (InvalidArgument const& failure) {
-            return failure.message();
+            EXPECT_EQ(failure.message(), message);
         }
-        return "nothing thrown"s;
-    };
-    EXPECT_EQ(refusal(u""), "Empty Path not permitted");
-    EXPECT_EQ(refusal(u"no-such"), "Time is not a ptime");
     EXPECT_THROW(last_write_time(u"no-such", ptime(boost::posix_time::neg_infin)), SystemError);
     EXPECT_THROW(last_write_time(u"no-such", ptime(boost::gregorian::date(1970, 1, 1))), PathNotFound);
 }

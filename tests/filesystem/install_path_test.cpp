@@ -14,17 +14,12 @@
 using namespace fl::filesystem;
 
 /// Stands in for the system's services during a test.
-struct InstallPathTest : testing::Test, fl::testing::platform_double {
-    int volume_flags(std::string const&, std::uint32_t& result) const override {
-        return result = flags, error;
-    }
+struct InstallPathTest : testing::Test, fl::testing::volume_double {
     std::string module_path(void const*) const override {
         return ++calls, path == "throw" ? throw path : path;
     }
 
     std::string path;
-    std::uint32_t flags = 0;
-    int error = 0;
     mutable std::atomic<int> calls = 0;
 };
 

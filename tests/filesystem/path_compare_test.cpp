@@ -1,8 +1,6 @@
 #include "filesystem/name_comparison.hpp"
 #include "locale_data/rows.hpp"
-#include "platform/platform.hpp"
 #include "support/platform_double.hpp"
-#include "support/temp_tree.hpp"
 
 #include <fl/filesystem/exceptions.hpp>
 #include <fl/filesystem/path_compare.hpp>
@@ -13,15 +11,7 @@
 
 using namespace fl::filesystem;
 
-/// A system whose volumes have the properties that a test gives them.
-struct PathCompareTest : testing::Test, fl::testing::platform_double {
-    int volume_flags(std::string const& path, std::uint32_t& result) const override {
-        return asked = path, result = flags, error;
-    }
-    std::uint32_t flags = 0;
-    int error = 0;
-    mutable std::string asked = "none";
-};
+struct PathCompareTest : testing::Test, fl::testing::volume_double {};
 
 /// The order as a sign, or the sign of the sentence of an `InvalidArgument`.
 static char outcome(auto const&... arguments) try {
@@ -71,15 +61,5 @@ TEST_F(PathCompareTest, AsksTheVolumeOfTheFirstOfTwoAbsoluteNames) {
     }
     error = EACCES;
     EXPECT_THROW(compare(u"/a", u"/a"), AccessDenied);
-    EXPECT_THROW(compare(u"/\xDC00", u"/a"), CvtInvalidCharacter);
     EXPECT_THROW(generate_character_handling_mask_from_volume(upath()), InvalidArgument);
-}
-
-TEST(PathFromVolume, IsTheNameOnDisk) {
-    fl::testing::temp_tree const tree;
-    std::filesystem::create_symlink(tree.file("real/caf\xC3\xA9"), tree.root() / "link");
-    auto const real = tree.text(u"real/caf\u00E9");
-    EXPECT_EQ(get_pathname_from_volume(tree.text(u"real/..//link"), u""), real);
-    EXPECT_EQ(get_pathname_from_volume(upath(u"link"), upath(tree.text())).string(), real);
-    EXPECT_EQ(get_pathname_from_volume(u"", tree.text()), u"");
 }

@@ -1,5 +1,8 @@
 #include "filesystem/directory/directory_node.hpp"
 #include "filesystem/directory/open_directory.hpp"
+#include "filesystem/directory/treatment.hpp"
+#include "locale_data/rows.hpp"
+#include "platform/directory.hpp"
 #include "support/temp_tree.hpp"
 
 #include <fl/filesystem/exceptions.hpp>
@@ -9,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <fcntl.h>
 #include <iterator>
 #include <set>
@@ -28,20 +32,6 @@ static names words(std::string const& text) {
 static_assert(std::input_iterator<walk> && std::sentinel_for<walk, walk>);
 
 struct RecursiveDirectoryIteratorTest : testing::Test {
-    /// The number of entries that a walk shows; their names and order are checked.
-    std::size_t checked_walk() const {
-        std::multiset<ustring> shown, expected;
-        std::ptrdiff_t level = 0;
-        for (upath_directory_entry const& entry : walk(root)) {
-            std::ptrdiff_t const own = std::ranges::count(*shown.insert(entry.full_pathname()), u'/');
-            EXPECT_LE(std::exchange(level, own), own) << "breadth first";
-        }
-        for (auto const& entry : stdfs::recursive_directory_iterator(tree.root()))
-            expected.insert(utf8_to_ustring(entry.path().native()));
-        EXPECT_EQ(shown, expected);
-        return shown.size();
-    }
-
     /// What a walk shows from `i` on, with "!" for each exception.
     static names rest(walk i) {
         names found;
@@ -69,6 +59,7 @@ struct RecursiveDirectoryIteratorTest : testing::Test {
 
     fl::testing::temp_tree tree;
     ustring root = tree.root().u16string();
+    detail::file_descriptor top{::open(tree.root().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
 };
 
 TEST_F(RecursiveDirectoryIteratorTest, ShowsEveryEntryOnceLevelByLevel) {
@@ -81,13 +72,21 @@ TEST_F(RecursiveDirectoryIteratorTest, ShowsEveryEntryOnceLevelByLevel) {
          {std::pair{"a/up", ".."}, {"out", "/"}, {"dangling", "no"}, {"self", "self"}})
         stdfs::create_symlink(target, tree.root() / link);
     ::mkfifo((tree.root() / "a/fifo").c_str(), 0600);
-    EXPECT_EQ(checked_walk(), 61);
-    std::ofstream(tree.root() / "0");
+    tree.file("wide/0");
     for (int i = 1; i < 20'000; ++i)
-        i % 10 == 0 ? void(stdfs::create_directory(tree.root() / std::to_string(i)))
-                    : stdfs::create_hard_link(tree.root() / "0", tree.root() / std::to_string(i));
-    EXPECT_EQ(checked_walk(), 20'061);
-    EXPECT_EQ(std::distance(walk(upath(root + u"/a/up")), walk()), 20'061) << "the root may be a link";
+        i % 10 == 0
+            ? void(stdfs::create_directory(tree.root() / "wide" / std::to_string(i)))
+            : stdfs::create_hard_link(tree.root() / "wide/0", tree.root() / "wide" / std::to_string(i));
+    std::multiset<ustring> shown, expected;
+    std::ptrdiff_t level = 0;
+    for (upath_directory_entry const& entry : walk(root)) {
+        std::ptrdiff_t const own = std::ranges::count(*shown.insert(entry.full_pathname()), u'/');
+        EXPECT_LE(std::exchange(level, own), own) << "breadth first";
+    }
+    for (auto const& entry : stdfs::recursive_directory_iterator(tree.root()))
+        expected.insert(utf8_to_ustring(entry.path().native()));
+    EXPECT_EQ(shown, expected);
+    EXPECT_EQ(std::distance(walk(upath(root + u"/a/up")), walk()), 20'062) << "the root may be a link";
 }
 
 TEST_F(RecursiveDirectoryIteratorTest, PathsLongerThanTheSystemTakes) {
@@ -106,7 +105,6 @@ TEST_F(RecursiveDirectoryIteratorTest, PathsLongerThanTheSystemTakes) {
         ++entries;
     }
     EXPECT_EQ(entries, 2 * depth);
-    detail::file_descriptor const top(::open(tree.root().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     for (std::string const last : {"", "missing"})
         EXPECT_EQ(detail::open_below(top.get(), deepest + last).is_open(), last.empty());
     // The standard library keeps a descriptor for each level while it removes a tree.
@@ -115,19 +113,14 @@ TEST_F(RecursiveDirectoryIteratorTest, PathsLongerThanTheSystemTakes) {
 
 TEST_F(RecursiveDirectoryIteratorTest, ATreeDeeperThanTheStack) {
     auto node = std::make_shared<detail::directory_node>("/");
-    EXPECT_EQ(node->path() + node->path_of("c"), "//c");
     for (int i = 0; i < 1'000'000; ++i)
         node = std::make_shared<detail::directory_node>(std::move(node), "x");
     EXPECT_EQ(node->path().size(), 2'000'000);
 }
 
 TEST_F(RecursiveDirectoryIteratorTest, WhatChangesDuringTheWalk) {
-    bool const reads_all = ::geteuid() == 0;
-    struct {
-        int steps; // before the change
-        void (*change)(stdfs::path const&);
-        std::string content;
-    } const rows[] = {
+    // The steps before the change, and what the walk shows after it.
+    std::tuple<int, void (*)(stdfs::path const&), std::string> const rows[] = {
         {2, [](auto const& top) { remove_all(top / "2"); }, "! one three"},
         {2, [](auto const& top) { remove_all(top); }, "! ! !"},
         {0, [](auto const& top) { remove_all(top); }, "!"},
@@ -136,7 +129,7 @@ TEST_F(RecursiveDirectoryIteratorTest, WhatChangesDuringTheWalk) {
         {2, [](auto const& top) { rename(top, top.string() + "_"), create_directories(top / "1/a"); },
          "one three two"},
         {2, [](auto const& top) { permissions(top / "2", stdfs::perms()); },
-         reads_all ? "one three two" : "! one three"}};
+         ::geteuid() == 0 ? "one three two" : "! one three"}};
     for (auto const& [steps, change, content] : rows) {
         fl::testing::temp_tree const own;
         for (auto const name : {"top/1/one", "top/2/two", "top/3/three"})
@@ -163,7 +156,7 @@ TEST_F(RecursiveDirectoryIteratorTest, LinksInTheMiddleOfAPathAreNotFollowed) {
         stdfs::rename(name, tree.root() / ("former" + std::to_string(n)));
         stdfs::create_symlink(tree.root() / "outside", name);
     }
-    EXPECT_LE(descriptors(tree.root()), 20);
+    EXPECT_LE(descriptors(tree.root()), 21);
     names const found = rest(i); // some directories are held, and the others lost
     EXPECT_TRUE(found.count("inside") > 1 && found.count("!") > 1 && found.count("secret") == 0);
     EXPECT_EQ(found.count("inside") + found.count("!"), 40);
@@ -180,10 +173,42 @@ TEST_F(RecursiveDirectoryIteratorTest, BeginsWhereADirectoryIteratorStands) {
     start = upath_directory_iterator(root, kestrune_pattern_string_generator()(u"2"));
     EXPECT_EQ(rest(walk(start)), words("2 two")) << "the pattern is for the first level";
     EXPECT_EQ(walk(end), walk());
-    std::filesystem::create_directory(tree.root() / "empty");
+    stdfs::create_directory(tree.root() / "empty");
     walk const nothing(upath_directory_iterator(upath(root + u"/empty"), initialization_mode::none, true));
     EXPECT_TRUE(nothing == walk() && descriptors(tree.root() / "empty") == 0) << "only dot entries";
-    start = upath_directory_iterator(root, pattern_string_context(u"*", u"\\d"));
-    walk const from_first(start);
-    EXPECT_NE(from_first, walk(++start)) << "one iterator, but another directory to visit";
+}
+
+/// The system's own way and the one by steps open the same directories, and refuse the others alike.
+TEST_F(RecursiveDirectoryIteratorTest, DirectoriesAreNeverOpenedByLinks) {
+    tree.file("a/b\xFF/c/file");
+    stdfs::create_symlink("a", tree.root() / "link");
+    stdfs::create_symlink("b\xFF", tree.root() / "a/link");
+    auto const table =
+        rows<2>("a ~  a/b\xFF ~  a/b\xFF/c ~  a/b\xFF/c/file D  a/b\xFF/c/no E  a/no/c E  link D  "
+                "link/b\xFF D  a/link/c D  a/@ N  @/a N  a/b\xFF/@/c N");
+    for (auto [path, error] : table) {
+        SCOPED_TRACE(path);
+        if (auto const place = path.find('@'); place != path.npos)
+            path.replace(place, 1, std::string(256, 'n'));
+        int const expected = error == "" ? 0 : error == "D" ? ENOTDIR : error == "E" ? ENOENT : ENAMETOOLONG;
+        for (auto const open :
+             {&fl::platform::open_directory_without_links, &fl::platform::open_directory_by_steps}) {
+            detail::file_descriptor const opened(open(top.get(), path.c_str()));
+            EXPECT_EQ(opened.is_open() ? 0 : errno == ELOOP ? ENOTDIR : errno, expected);
+        }
+        EXPECT_EQ(to_handle(detail::open_below(top.get(), path)) ? 0 : errno, expected);
+    }
+}
+
+TEST_F(RecursiveDirectoryIteratorTest, AsksTheDiskWhereTheDirectoryDoesNotTell) {
+    tree.file("directory/file");
+    stdfs::create_symlink(tree.root(), tree.root() / "link");
+    std::string const table =
+        "directory vv  directory/file ss  link ss  gone --  " + std::string(256, 'n') + " sv";
+    for (auto const& [name, expected] : rows<2>(table.c_str())) {
+        std::string actual; // for an entry of unknown type, and for a directory
+        for (unsigned char const type : {DT_UNKNOWN, DT_DIR})
+            actual += "-sv"[static_cast<int>(detail::treatment_of(type, top.get(), name.c_str()))];
+        EXPECT_EQ(actual, expected) << name;
+    }
 }

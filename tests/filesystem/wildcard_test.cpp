@@ -57,14 +57,12 @@ TEST(WildcardTest, AgreesWithItsRegularExpression) {
 }
 
 TEST(WildcardTest, NamesMadeToBeSlow) {
-    ustring const returns(255, u'\r');
-    for (ustring const pattern : {u"*a*b", u"a*\r*\r*\r*\r*\r*\r*\r*\r*b", u"*ab*\r\r\r\n"})
-        for (ustring const& name : {u"a" + returns, u"xab" + returns + u"\n"}) {
-            auto const parsed = wildcard::parse(generate_pattern_from_filename(pattern)).value();
-            EXPECT_EQ(parsed.matches(name), name.back() == pattern.back());
-            EXPECT_EQ(expression_matches(parsed.bounded_expression(), 17, name),
-                      name.back() == pattern.back());
-        }
+    ustring const name = u"xab" + ustring(255, u'\r') + u"\n";
+    for (ustring const pattern : {u"*a*b", u"*a*\r*\r*\r*\r*\r*\r*\r*\r*b", u"*ab*\r\r\r\n"}) {
+        auto const parsed = wildcard::parse(generate_pattern_from_filename(pattern)).value();
+        EXPECT_EQ(parsed.matches(name), pattern.back() == u'\n');
+        EXPECT_EQ(expression_matches(parsed.bounded_expression(), 17, name), pattern.back() == u'\n');
+    }
 }
 
 TEST(WildcardTest, ExpressionsToTheLetter) {

@@ -32,4 +32,14 @@ private:
     platform::scoped_services const in_force_{*this};
 };
 
+/// Its volumes have the properties that a test gives them.
+struct volume_double : platform_double {
+    int volume_flags(std::string const& path, std::uint32_t& result) const override {
+        return asked = path, result = flags, error;
+    }
+    std::uint32_t flags = 0;
+    int error = 0;
+    mutable std::string asked = "none";
+};
+
 } // namespace fl::testing

@@ -2,8 +2,9 @@
 
 #include <fl/i18n/code_points.hpp>
 #include <fl/i18n/compare.hpp>
+#include <fl/i18n/cstring.hpp>
 
-#include <unicode/uchar.h>
+#include <unicode/ustring.h>
 
 #include <vector>
 
@@ -30,8 +31,8 @@ static constexpr decltype(&by<case_sensitive>) compare[] = {by<case_sensitive>,
 static int icu_compare(unsigned rule, ustring a, ustring b) {
     bool const is_decided_by_emptiness = a.empty() || b.empty();
     if (rule >= 4) {
-        a = icu_form(a, unorm2_getNFKDInstance);
-        b = icu_form(b, unorm2_getNFKDInstance);
+        a = icu_form(a, icu::Normalizer2::getNFKDInstance);
+        b = icu_form(b, icu::Normalizer2::getNFKDInstance);
     }
     auto const a_len = static_cast<int32_t>(a.size()), b_len = static_cast<int32_t>(b.size());
     uint32_t const options = rule > 1 && rule % 2 != 0 ? U_COMPARE_IGNORE_CASE : 0;
@@ -78,6 +79,20 @@ TEST(Compare, EmptinessDecidesBeforeLengthsAreChecked) {
         EXPECT_EQ(compare[rule](endless, {}), 1) << rule;
         EXPECT_EQ(compare[rule](u"a\xD801", u"a\xD801\xDC00"), -1) << rule;
     }
-    EXPECT_EQ(detail::check_str(endless.data(), endless.size(), u"b", 1), 0);
     EXPECT_EQ(detail::check_str(nullptr, 5, u"b", 1), -1);
+}
+
+TEST(CompareCStrings, LengthsAreLimited) {
+    EXPECT_GT(fl::i18n::strcmp(u"\uFF5E", u"\U0001F600"), 0) << "by units";
+    EXPECT_EQ(fl::i18n::lcctype::strcasecmp(u"stra\u00DFe", u"STRASSE"), 0);
+    std::pair<unsigned long, int> const rows[] = {{2, 0}, {3, 1}, {0x7FFFFFFF, 1}, {0x80000000, -1}};
+    for (auto const& [limit, expected] : rows) {
+        EXPECT_EQ(fl::i18n::strncmp(u"abd", u"abc", limit), expected) << limit;
+        EXPECT_EQ(fl::i18n::lcctype::strncasecmp(u"ABD", u"abc", limit), expected) << limit;
+    }
+    char16_t const endless[] = {u'x', u'x'}; // the sanitizer sees a read behind the limit
+    EXPECT_EQ(fl::i18n::strlen_lim(endless, 2), 2u);
+    EXPECT_EQ(fl::i18n::strlen_lim(u"fives", ~0UL >> 1), 5u);
+    EXPECT_EQ(fl::i18n::strlen_lim(u"fives", ~(~0UL >> 1)), 0u);
+    EXPECT_EQ(fl::i18n::strlen_lim(nullptr, 3), 0u);
 }

@@ -11,15 +11,13 @@ using fl::ustring;
 
 // The offset of the first wanted character among the units in the order of iteration.
 static std::ptrdiff_t naive_scan(unsigned int mask, ustring const& units, bool posix) {
-    std::size_t i = 0;
-    for (std::size_t next = 0; i < units.size(); i = next) {
-        char16_t const second = i + 1 < units.size() ? units[i + 1] : u'\0';
-        char32_t const pair = lcctype::make_utf32_from_uchar(units[i], second);
-        next = i + (pair == 0xFFFD ? 1 : 2);
+    for (std::size_t i = 0; i < units.size(); ++i) {
+        char32_t const pair = lcctype::make_utf32_from_uchar(units[i], units[i + 1]);
         if (detail::is_ctype(mask, pair == 0xFFFD ? units[i] : pair) == posix)
-            break;
+            return static_cast<std::ptrdiff_t>(i);
+        i += pair == 0xFFFD ? 0 : 1;
     }
-    return static_cast<std::ptrdiff_t>(i);
+    return std::ssize(units);
 }
 
 // The six iterators with one tag, on the inside of a text: the units around it would complete a letter with a

@@ -4,8 +4,9 @@
 #include <fl/i18n/ustring.hpp>
 
 #include <gtest/gtest.h>
-#include <unicode/unorm2.h>
-#include <unicode/ustring.h>
+#include <unicode/locid.h>
+#include <unicode/normalizer2.h>
+#include <unicode/unistr.h>
 
 #include <random>
 
@@ -29,26 +30,18 @@ inline ustring sample_text(std::mt19937& random, std::size_t parts) {
     return text;
 }
 
-/// What `call(dst, capacity, &status)` makes of a text of `size` units.
-ustring by_icu(std::size_t size, auto const& call) {
-    ustring result(20 * size + 64, u'#');
+/// To ICU's kind of text and back.
+inline icu::UnicodeString for_icu(ustring const& text) {
+    return {text.data(), static_cast<int32_t>(text.size())};
+}
+
+inline ustring by_icu(icu::UnicodeString const& result) {
+    return {result.getBuffer(), static_cast<std::size_t>(result.length())};
+}
+
+inline ustring icu_form(ustring const& text, icu::Normalizer2 const* (*form)(UErrorCode&)) {
     UErrorCode status = U_ZERO_ERROR;
-    int32_t const length = call(result.data(), static_cast<int32_t>(result.size()), &status);
-    EXPECT_TRUE(U_SUCCESS(status)) << u_errorName(status);
-    return result.substr(0, static_cast<std::size_t>(length));
-}
-
-inline ustring icu_case(ustring const& text, decltype(u_strToUpper)& map, char const* locale) {
-    return by_icu(text.size(), [&](char16_t* dst, int32_t room, UErrorCode* status) {
-        return map(dst, room, text.data(), static_cast<int32_t>(text.size()), locale, status);
-    });
-}
-
-inline ustring icu_form(ustring const& text, UNormalizer2 const* (*form)(UErrorCode*)) {
-    return by_icu(text.size(), [&](char16_t* dst, int32_t room, UErrorCode* status) {
-        return unorm2_normalize(form(status), text.data(), static_cast<int32_t>(text.size()), dst, room,
-                                status);
-    });
+    return by_icu(form(status)->normalize(for_icu(text), status));
 }
 
 } // namespace fl::testing

@@ -45,14 +45,3 @@ TEST(SimplePatternMatch, TimeLimitEndsHostileMatches) {
     EXPECT_THROW(detail::normalize_by_form(1, endless, buffer), boost::numeric::positive_overflow);
     EXPECT_THROW(detail::regex_holder().open(endless, true), boost::numeric::positive_overflow);
 }
-
-TEST(RegexHolder, MovedFromIsNotCompiled) {
-    detail::regex_holder holder;
-    EXPECT_FALSE(holder.is_compiled());
-    EXPECT_EQ(holder.open(u"(", true), regex_failed_object_creation);
-    EXPECT_FALSE(holder.is_compiled());
-    ASSERT_EQ(holder.open(u"a", true), regex_success);
-    detail::regex_holder const other(std::move(holder));
-    EXPECT_TRUE(other.is_compiled());
-    EXPECT_FALSE(holder.is_compiled());
-}
