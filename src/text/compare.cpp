@@ -26,7 +26,7 @@ int order(std::size_t a, std::size_t b) noexcept {
 }
 
 // By code units: the rule that all others end with.
-int compare_units(view a, view b) noexcept {
+int compare_units(view a, view b) {
     std::size_t const shorter = std::min(a.size(), b.size());
     std::size_t const at = common_run(a.data(), b.data(), shorter);
     return at == shorter ? order(a.size(), b.size()) : a[at] - b[at];
@@ -74,49 +74,47 @@ std::optional<int> skip_common(view& a, view& b, skip_rule rule) noexcept {
     return std::nullopt;
 }
 
+// The rules are template arguments, not values: handing them on would cost more than many a comparison.
+
 using icu_comparison = decltype(unorm_compare);
+using rule = int(view, view);
 
 // The rule of a function of ICU with options.
-auto by_icu(icu_comparison& function, std::uint32_t options) noexcept {
-    return [&function, options](view a, view b) {
-        UErrorCode status = U_ZERO_ERROR;
-        std::int32_t const result = function(a.data(), checked_length(a.size()), b.data(),
-                                             checked_length(b.size()), options, &status);
-        if (U_FAILURE(status))
-            support::raise(CtypeStrCompFailure(status));
-        return result;
-    };
+template <icu_comparison& Function, std::uint32_t Options>
+int by_icu(view a, view b) {
+    UErrorCode status = U_ZERO_ERROR;
+    std::int32_t const result =
+        Function(a.data(), checked_length(a.size()), b.data(), checked_length(b.size()), Options, &status);
+    if (U_FAILURE(status))
+        support::raise(CtypeStrCompFailure(status));
+    return result;
 }
 
 // The rule that compares both sides in NFKD by another.
-template <class Rule>
-auto in_compatible_form(Rule compare_forms) noexcept {
-    return [compare_forms](view a, view b) {
-        text_buffer a_buffer;
-        text_buffer b_buffer;
-        view const a_form = normalized(normal_form::nfkd, a, a_buffer);
-        view const b_form = normalized(normal_form::nfkd, b, b_buffer);
-        return compare_forms(a_form, b_form);
-    };
+template <rule CompareForms>
+int in_compatible_form(view a, view b) {
+    text_buffer a_buffer;
+    text_buffer b_buffer;
+    view const a_form = normalized(normal_form::nfkd, a, a_buffer);
+    view const b_form = normalized(normal_form::nfkd, b, b_buffer);
+    return CompareForms(a_form, b_form);
 }
 
 // The rule that spares another one the start that both sides share.
-template <class Rule>
-auto behind_common(skip_rule skip, Rule compare_rest) noexcept {
-    return [skip, compare_rest](view a, view b) {
-        std::optional<int> const settled = skip_common(a, b, skip);
-        return settled ? *settled : compare_rest(a, b);
-    };
+template <skip_rule Skip, rule CompareRest>
+int behind_common(view a, view b) {
+    std::optional<int> const settled = skip_common(a, b, Skip);
+    return settled ? *settled : CompareRest(a, b);
 }
 
 // What comes before every rule: empty texts, and lengths.
-template <class Rule>
-int compare_by(Rule rule, char16_t const* a, std::size_t a_len, char16_t const* b, std::size_t b_len) {
+template <rule Rule>
+int compare_by(char16_t const* a, std::size_t a_len, char16_t const* b, std::size_t b_len) {
     if (!a || !b || a_len == 0 || b_len == 0)
         return check_str(a, a_len, b, b_len);
     checked_length(a_len);
     checked_length(b_len);
-    return rule(view(a, a_len), view(b, b_len));
+    return Rule(view(a, a_len), view(b, b_len));
 }
 
 } // namespace
@@ -127,36 +125,36 @@ int check_str(char16_t const* a, unsigned long a_len, char16_t const* b, unsigne
 
 int compare(char16_t const* a, unsigned long a_len, char16_t const* b, unsigned long b_len,
             case_sensitive const&) {
-    return compare_by(compare_units, a, a_len, b, b_len);
+    return compare_by<compare_units>(a, a_len, b, b_len);
 }
 
 int compare(char16_t const* a, unsigned long a_len, char16_t const* b, unsigned long b_len,
             case_insensitive const&) {
-    auto const rule = behind_common(by_case, by_icu(u_strCaseCompare, U_FOLD_CASE_DEFAULT));
-    return compare_by(rule, a, a_len, b, b_len);
+    return compare_by<behind_common<by_case, by_icu<u_strCaseCompare, U_FOLD_CASE_DEFAULT>>>(a, a_len, b,
+                                                                                             b_len);
 }
 
 int compare(char16_t const* a, unsigned long a_len, char16_t const* b, unsigned long b_len,
             normalized_case_sensitive const&) {
-    return compare_by(behind_common(by_form, by_icu(unorm_compare, 0)), a, a_len, b, b_len);
+    return compare_by<behind_common<by_form, by_icu<unorm_compare, 0>>>(a, a_len, b, b_len);
 }
 
 int compare(char16_t const* a, unsigned long a_len, char16_t const* b, unsigned long b_len,
             normalized_case_insensitive const&) {
-    auto const rule = behind_common(by_form_and_case, by_icu(unorm_compare, U_COMPARE_IGNORE_CASE));
-    return compare_by(rule, a, a_len, b, b_len);
+    return compare_by<behind_common<by_form_and_case, by_icu<unorm_compare, U_COMPARE_IGNORE_CASE>>>(
+        a, a_len, b, b_len);
 }
 
 int compare(char16_t const* a, unsigned long a_len, char16_t const* b, unsigned long b_len,
             normalized_compatibility_case_sensitive const&) {
-    auto const rule = behind_common(by_form, in_compatible_form(compare_units));
-    return compare_by(rule, a, a_len, b, b_len);
+    return compare_by<behind_common<by_form, in_compatible_form<compare_units>>>(a, a_len, b, b_len);
 }
 
 int compare(char16_t const* a, unsigned long a_len, char16_t const* b, unsigned long b_len,
             normalized_compatibility_case_insensitive const&) {
-    auto const without_case = by_icu(unorm_compare, U_COMPARE_IGNORE_CASE);
-    return compare_by(behind_common(by_form_and_case, in_compatible_form(without_case)), a, a_len, b, b_len);
+    return compare_by<
+        behind_common<by_form_and_case, in_compatible_form<by_icu<unorm_compare, U_COMPARE_IGNORE_CASE>>>>(
+        a, a_len, b, b_len);
 }
 
 } // namespace fl::i18n::detail
