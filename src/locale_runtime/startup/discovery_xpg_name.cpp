@@ -48,7 +48,7 @@ std::string stem_of(std::string const& name) {
 } // namespace
 
 std::string tested_xpg_name(locale_database const& database, std::string const& locale) {
-    std::string const name = candidate(database, locale);
+    std::string name = candidate(database, locale);
     if (name.empty())
         return name;
     std::string const stem = stem_of(name);
