@@ -77,9 +77,7 @@ TEST(GetFormattedMessage, RefusesPatternsThatWouldOutgrowTheStack) {
          {nested(select, 51), nested(select, 20000, ustring(40010, u'}')),
           nested(u"{0 , SELECT, other{", 20000, u"{0,select,other{a'b"), nested(u"{0,choice,0#", 20000)})
         EXPECT_THROW(format(pattern, texts(1)), FormatIncorrect) << pattern.size();
-    ustring talk;
-    while (talk.size() < 2000)
-        talk += u"first open it, select a row. ";
+    ustring const talk = nested(u"first open it, select a row. ", 70);
     EXPECT_EQ(format(talk, texts(0)), talk) << "no argument";
 }
 
@@ -102,11 +100,8 @@ TEST(GetFormattedMessageByFunction, FillsEachHoleOnceOrFails) {
 
 TEST(GetCustomHoleType, FindsByTheNumberInTheName) {
     auto const get_type = MessageCatalog::GetCustomHoleType;
-    std::tuple<ustring, unsigned long, ustring> const rows[] = {
-        {u"{0_date} {1}", 0, u"date"}, {u"{0_date} {1}", 1, u""},           {u"{0_date} {1}", 2, u""},
-        {u"{7_a_b} {1}", 1, u""},      {u"{1_late} {1_early}", 1, u"late"}, {u"plain", 0, u""}};
-    for (auto const& [message, number, type] : rows)
-        EXPECT_EQ(get_type(message, number), type) << testing::PrintToString(message);
+    EXPECT_EQ(get_type(u"{0_date} {1_late} {1_early}", 1), u"late");
+    EXPECT_EQ(get_type(u"{0_date} {7_other}", 2), u"");
     EXPECT_THROW(get_type(u"{0_date} {1}", 3), HoleCount);
     EXPECT_THROW(get_type(u"{name}", 0), std::invalid_argument);
 }

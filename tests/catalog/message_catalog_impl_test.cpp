@@ -9,6 +9,7 @@ using namespace fl::i18n;
 using fl::filesystem::upath;
 using fl::testing::failure;
 using idbase::BaseMsgID;
+using LoadFailed = MessageCatalog::MessageCatalogLoadFailed;
 
 struct MessageCatalogImplTest : ::testing::Test, fl::testing::temp_tree {
     MessageCatalogImpl load(std::string const& content) {
@@ -18,14 +19,15 @@ struct MessageCatalogImplTest : ::testing::Test, fl::testing::temp_tree {
 };
 
 constexpr char sample[] = "<rsccat locale='fr'><message><entry key='k'>it's {0}\\n\xF0\x9F\x98\x80</entry>"
-                          "<entry key='bad'>{</entry></message></rsccat>";
+                          "<entry key='bad'>{</entry><entry key='twice'>a\\u00e4\\\\n</entry>"
+                          "<entry key='torn'>a\\</entry></message></rsccat>";
 
 TEST_F(MessageCatalogImplTest, LooksUp) {
-    auto const loaded = load(sample);
-    MessageCatalog const& catalog = loaded;
+    MessageCatalog const& catalog = load(sample);
     EXPECT_EQ(catalog.get_message_for_key("k"), u"it's {0}\n\U0001F600");
     EXPECT_EQ(catalog.get_message_for_key(BaseMsgID{{7LL}, "a:b", "k"}), u"it's 7\n\U0001F600");
-    EXPECT_EQ(catalog.get_all_keys().size(), 2U);
+    EXPECT_EQ(catalog.get_message_for_key("twice") + catalog.get_message_for_key("torn"), u"a\u00e4\\n");
+    EXPECT_EQ(catalog.get_all_keys().size(), 4U);
 
     auto const fill = [&](auto id, auto key) { catalog.get_message_for_key(BaseMsgID{{}, id, key}); };
     for (auto const& [id, key] : {std::pair("a:b", "K"), {"a:b", ""}, {"A:b", "k"}, {"a:b:c", "k"}}) {
@@ -38,14 +40,11 @@ TEST_F(MessageCatalogImplTest, LooksUp) {
 TEST_F(MessageCatalogImplTest, FailedLoadsThrow) {
     std::string const failed =
         "Message Catalog a:b was not loaded from the file. Please check file location, format or contents";
-    auto const load_failure = [](auto const& load) {
-        return failure<MessageCatalog::MessageCatalogLoadFailed>(load);
-    };
     for (auto const& where : {upath(text(u"missing")), upath(text(u"")), upath(), upath(u"/\xD800"),
                               upath(text(std::u16string_view(u"c.xml\0x", 7)))})
-        EXPECT_EQ(load_failure([&] { MessageCatalogImpl("a:b", where, "de"); }), failed);
+        EXPECT_EQ(failure<LoadFailed>([&] { MessageCatalogImpl("a:b", where, "de"); }), failed);
     auto catalog = load(sample);
-    EXPECT_EQ(load_failure([&] { load("<rsccat><message>"); }), failed);
-    EXPECT_EQ(load_failure([&] { catalog.initializeXMLCatalog(); }), failed) << "loads anew";
-    EXPECT_EQ(load_failure([&] { catalog.get_message_for_key("k"); }), failed);
+    EXPECT_EQ(failure<LoadFailed>([&] { load("<rsccat><message>"); }), failed);
+    EXPECT_EQ(failure<LoadFailed>([&] { catalog.initializeXMLCatalog(); }), failed) << "loads anew";
+    EXPECT_EQ(failure<LoadFailed>([&] { catalog.get_message_for_key("k"); }), failed);
 }

@@ -1,14 +1,12 @@
 // The registry is process-wide: each test runs in a process of its own.
 
-#include "support/temp_tree.hpp"
+#include "catalog/catalog_tree.hpp"
 
-#include <fl/i18n/message_catalog.hpp>
 #include <fl/i18n/message_id_completion.hpp>
 
 #include <boost/algorithm/string.hpp>
-#include <gtest/gtest.h>
 
-#include <algorithm>
+#include <set>
 #include <tuple>
 
 using namespace fl::i18n;
@@ -16,38 +14,30 @@ using fl::ustring;
 
 static std::string const maps = "main/derived/share/resources/";
 
-struct MessageIdCompletion : ::testing::Test, fl::testing::temp_tree {
+struct MessageIdCompletion : fl::testing::catalog_tree {
     MessageIdCompletion() {
-        catalog("main/resources/c/en/xa/n1", {"title", "TiP", "other"});
-        catalog("main/resources/KESTRUNE/en/legacy_two_part", {"able", "Absent", "zoo"});
-        map(maps + "c", {"c:xa:n1", "c:xa:n2", "c:yb"});
-        map(maps + "c/xa", {"c:xa:deeper:n3"});
-        map(maps + "KESTRUNE", {"KESTRUNE:legacy_two_part"});
-        map(maps + "elsewhere", {"elsewhere:a"}); // not in the resources
-        catalog("other/resources/d/en/e", {"k"});
-        map("other/derived/share/resources/d", {"d:e"});
-        file("bare/resources/c/file");
+        write("main", "c/en/xa/n1", "");
+        write("main", "KESTRUNE/en/legacy_two_part", "");
+        map(maps + "c", "c:xa:n1 c:xa:n2 c:yb");
+        map(maps + "c/xa", "c:xa:deeper:n3");
+        map(maps + "KESTRUNE", "KESTRUNE:legacy_two_part");
+        map(maps + "elsewhere", "elsewhere:a"); // not in the resources
+        map("addon/derived/share/resources/app", "app:text");
         EXPECT_EQ("", completions(u"")) << "there are no locations yet";
-        EXPECT_TRUE(MessageCatalog::MessageCatalogInit({text(u"main"), text(u"other"), text(u"bare")}));
+        EXPECT_TRUE(MessageCatalog::MessageCatalogInit({main_, addon_}));
     }
 
-    static std::string entries(std::vector<std::string> const& keys) {
-        return "<entry key='" + boost::join(keys, "'/><entry key='") + "'/>";
-    }
-    void catalog(std::string const& name, std::vector<std::string> const& keys) const {
-        file(name + ".xml", "<rsccat><message>" + entries(keys) + "</message></rsccat>");
-    }
-    void map(std::string const& directory, std::vector<std::string> const& catalogs) const {
+    void map(std::string const& directory, std::string const& catalogs) const {
+        std::string const entries = boost::replace_all_copy(catalogs, " ", "'/><entry key='");
         file(directory + "/catalog_map.xml",
-             "<MessageCatalogMap version='1'>" + entries(catalogs) + "</MessageCatalogMap>");
+             "<MessageCatalogMap version='1'><entry key='" + entries + "'/></MessageCatalogMap>");
     }
 
     /// In order of code units, each followed by a blank.
     static std::string completions(ustring const& input) {
-        std::vector<ustring> list = getMessageIdCompletions(input).completions;
-        std::sort(list.begin(), list.end());
+        auto const list = getMessageIdCompletions(input).completions;
         std::string result;
-        for (ustring const& text : list)
+        for (ustring const& text : std::multiset<ustring>(list.begin(), list.end()))
             result.append(text.begin(), text.end()) += ' ';
         return result;
     }
@@ -55,15 +45,15 @@ struct MessageIdCompletion : ::testing::Test, fl::testing::temp_tree {
 
 TEST_F(MessageIdCompletion, ListsWhatMayFollow) {
     std::tuple<ustring, std::string, std::int32_t> const rows[] = {
-        {u"", "KESTRUNE: c: d: ", 0},
+        {u"", "KESTRUNE: app: c: ", 0},
         {u"C", "c: ", 0},
         {u"c:", "xa: xa: xa: yb: ", 2},
         {u"c:xa:", "deeper: ", 5}, // the map of "c" is not asked where "c/xa" has one
-        {u"c:xa:n1:tI", "TiP title ", 8},
+        {u"c:xa:n1:Ho", "hole ", 8},
         {u"c:xa:n2:", "", 8}, // listed, but there is no such catalog
         {u"c:Y", "yb: ", 2},
         {u"C:X", "", 2},
-        {u"KESTRUNE:ab", "Absent able ", 9},
+        {u"KESTRUNE:h", "hole ", 9},
         {u"c:../c:", "", 7},
         {u"\u00E4:", "", 0}, // outside ASCII: a failure...
         {u"c:xa:n1:\u00E4", "", 0},
@@ -76,53 +66,49 @@ TEST_F(MessageIdCompletion, ListsWhatMayFollow) {
 }
 
 TEST_F(MessageIdCompletion, CountsWhatStandsBeforeABreak) {
-    std::string const one = "<entry key='c:one'/>";
+    std::string const one = "<entry key='e:one'/>";
     std::pair<std::string, char const*> const rows[] = {
-        {one + "<entry key='c:two'/", "one: "},
-        {one + "<x/><entry key='c:two'/>", "one: "},
-        {one + "<entry key='c:two'><entry key='c:three'/></entry>", "one: two: "},
-        {"<entry x='key' y='c:two'/>" + one, "one: "},           // a value is read as a name
-        {one + "<entry x='key'/><entry key='c:two'/>", "one: "}, // at the end, too
-        {one + "<entry key='c:t\xC3\xA4'/>", ""},                // a failure
-        {one + "&x;<entry key='c:two'/>", "one: "},
+        {one + "<x/><entry key='e:two'/>", "one: "},
+        {one + "<entry key='e:two'><entry key='e:three'/></entry>", "one: two: "},
+        {"<entry x='key' y='e:two'/>" + one, "one: "},           // a value is read as a name
+        {one + "<entry x='key'/><entry key='e:two'/>", "one: "}, // at the end, too
+        {one + "<entry key='e:t\xC3\xA4'/>", ""},                // a failure
+        {one + "&x;<entry key='e:two'/>", "one: "},
     };
-    std::filesystem::remove_all(root() / maps / "c/xa");
     for (auto const& [content, expected] : rows) {
-        file(maps + "c/catalog_map.xml", "<MessageCatalogMap>" + content + "</MessageCatalogMap>");
-        EXPECT_EQ(expected, completions(u"c:")) << content;
+        file(maps + "e/catalog_map.xml", "<MessageCatalogMap>" + content + "</MessageCatalogMap>");
+        EXPECT_EQ(expected, completions(u"e:")) << content;
     }
     // Cut anywhere, and any unit damaged: what stands before that counts.
-    std::string const whole = "<MessageCatalogMap>" + one + "<entry key='c:two'/></MessageCatalogMap>";
+    std::string const whole = "<MessageCatalogMap>" + one + "<entry key='e:two'/></MessageCatalogMap>";
     std::size_t const end_of_one = whole.find("/>") + 2;
     for (std::size_t i = 0; i < whole.size(); ++i) {
         std::string damaged = whole;
         damaged[i] = static_cast<char>(damaged[i] ^ 0x15);
         for (std::string const& content : {whole.substr(0, i), damaged}) {
-            file(maps + "c/catalog_map.xml", content);
-            std::string const found = completions(u"c:");
+            file(maps + "e/catalog_map.xml", content);
+            std::string const found = completions(u"e:");
             EXPECT_TRUE(i < end_of_one || found.find("one: ") != found.npos) << content;
         }
     }
-    std::string bomb = "<!DOCTYPE x [<!ENTITY a 'c:one'>";
+    std::string bomb = "<!DOCTYPE x [<!ENTITY a 'e:one'>";
     for (char name = 'b'; name <= 'z'; ++name)
         bomb += std::string("<!ENTITY ") + name + " '&" + char(name - 1) + ";&" + char(name - 1) + ";'>";
-    file(maps + "c/catalog_map.xml", bomb + "]><MessageCatalogMap>" + one + "<entry key='&z;'/>");
-    EXPECT_EQ("one: ", completions(u"c:"));
+    file(maps + "e/catalog_map.xml", bomb + "]><MessageCatalogMap>" + one + "<entry key='&z;'/>");
+    EXPECT_EQ("one: ", completions(u"e:"));
 }
 
 TEST_F(MessageIdCompletion, EndsInALoopOfLinks) {
-    std::filesystem::path const directory = root() / maps / "c";
-    for (char const* name : {"loop1", "loop2", "loop3"})
-        std::filesystem::create_directory_symlink(".", directory / name);
-    for (auto const& self : {directory / "self", root() / "main/resources/self"})
-        std::filesystem::create_symlink("self", self);
-    std::filesystem::create_symlink("nowhere", directory / "dangling");
-    std::filesystem::create_directory_symlink(root() / "aside", directory / "linked");
-    map("aside", {"c:linked:n"});
+    for (auto const& [link, target] :
+         {std::pair("loop1", "."), {"loop2", "."}, {"loop3", "."}, {"self", "self"}, {"dangling", "nowhere"}})
+        std::filesystem::create_symlink(target, root() / maps / "c" / link);
+    std::filesystem::create_symlink("self", root() / "main/resources/self");
+    std::filesystem::create_symlink(root() / "aside", root() / maps / "c/linked");
+    map("aside", "c:linked:n");
     std::string deep = maps + "c";
     for (int level = 0; level < 1000; ++level)
         deep += "/d";
-    map(deep, {"c:deep"});
+    map(deep, "c:deep");
     EXPECT_EQ("deep: linked: xa: xa: xa: yb: ", completions(u"c:"));
-    EXPECT_EQ("KESTRUNE: c: d: ", completions(u""));
+    EXPECT_EQ("KESTRUNE: app: c: ", completions(u""));
 }

@@ -44,12 +44,12 @@ TEST_F(ResourceFinder, TakesTheFirstFileOfTheFirstLocale) {
         resource_finder const finder(bases_, *locale, fallback, u"");
         EXPECT_EQ(below(file), finder.find(pattern));
         EXPECT_EQ(answer, finder.get_locale());
-        auto const path = resource_finder::find_resource(bases_, pattern, found, *locale, fallback, u"");
-        EXPECT_EQ(below(file), path);
+        EXPECT_EQ(below(file),
+                  resource_finder::find_resource(bases_, pattern, found, *locale, fallback, u""));
         EXPECT_EQ(file.empty() ? "" : answer, found);
     }
-    ustring const whole_path = text(u"b") + u"//%S/x.xml";
-    EXPECT_EQ(below(u"b/de/x.xml"), resource_finder::find_resource(whole_path, found, *german_, true, u""));
+    EXPECT_EQ(below(u"b/de/x.xml"),
+              resource_finder::find_resource(text(u"b//%S/x.xml"), found, *german_, true, u""));
 }
 
 TEST_F(ResourceFinder, TakesAnotherMarkerLocaleOrDirectory) {
@@ -64,9 +64,7 @@ TEST_F(ResourceFinder, TakesAnotherMarkerLocaleOrDirectory) {
     EXPECT_EQ(below(u"a/en/x.xml"), finder.find(u"%S/x.xml", *french, u"%S", found));
     EXPECT_EQ("fr_FR", found) << "this form reports the first name of the list";
     EXPECT_EQ("", finder.get_locale()) << "and pushes the place of the match past the list";
-    EXPECT_TRUE(finder.remove_base_path(below(u"a")) && !finder.remove_base_path(below(u"a")));
-    EXPECT_EQ(below(u"b/en/x.xml"), finder.find(u"@@/x.xml", *french, found));
-    EXPECT_TRUE(finder.add_base_path(below(u"a")) && !finder.add_base_path(below(u"b")));
+    EXPECT_TRUE(finder.remove_base_path(below(u"a")) && finder.add_base_path(below(u"a")));
     EXPECT_EQ(below(u"b/en/x.xml"), finder.find(u"@@/x.xml", *french, found)) << "the new one is the last";
 }
 

@@ -34,5 +34,4 @@ TEST(CodecvtAscii, WidensAndNarrowsInPlace) {
     strict_in.convert(units, 200, bytes, 200);
     strict_out.convert(bytes, 200, units, 200);
     EXPECT_EQ(std::string(200, 'q'), std::string(bytes, 200));
-    EXPECT_EQ(3u, strict_out.convert(bytes, 3, u"ab\0\u00e9", 4)) << "what is not converted is not checked";
 }

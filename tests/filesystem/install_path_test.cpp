@@ -36,9 +36,7 @@ TEST_F(InstallPathTest, WalksUpToTheDirectoryPair) {
     path = (tree.root() / "link.so").string();
     std::filesystem::create_symlink(tree.file("real/bin/" DIR "/lib.so"), path);
     EXPECT_EQ(get_base_path(nullptr), tree.root() / "real");
-}
-
-TEST_F(InstallPathTest, CaseCountsByTheVolume) {
+    // Case counts by the volume.
     path = "/x/BIN/" + fl::support::ascii_upper_copy(DIR) + "/lib.so";
     for (flags = 0; flags < 32; ++flags)
         EXPECT_EQ(get_base_path(nullptr), flags % 2 == 1 ? "/x" : "") << flags;

@@ -58,22 +58,13 @@ TEST_F(TemporaryTest, NothingThatExistsIsOpenedOrFollowed) {
     std::FILE* const file = open({"file", "a", "link", "dangling", "loop", "pipe", "free", "other"});
     ASSERT_NE(file, nullptr);
     EXPECT_EQ(name, tree.text(u"free"));
-    EXPECT_TRUE(std::fputs("scratch", file) >= 0 && std::fclose(file) == 0);
+    EXPECT_TRUE(std::fputs("x", file) >= 0 && std::fseek(file, 0, SEEK_SET) == 0 && std::fgetc(file) == 'x');
+    EXPECT_TRUE(std::fclose(file) == 0 && exists(upath(name)));
     EXPECT_EQ(std::filesystem::file_size(tree.root() / "file"), 8u);
     EXPECT_FALSE(std::filesystem::exists(tree.root() / "missing"));
     EXPECT_TRUE(!open({"file", ""}) && drawn == 2 && errno == 0 && name.empty()) << drawn;
     for (ustring const& prefix : {ustring(u"fil"), ustring(u"missing/"), ustring(1, u'\0')})
         EXPECT_TRUE(!open({"e"}, prefix) && drawn == 11 && errno == 0 && name.empty()) << drawn;
-}
-
-TEST_F(TemporaryTest, IsOpenForReadingAndWritingInTheDirectoryOfTheEnvironment) {
-    ASSERT_EQ(::setenv("TMPDIR", (tree.root() / "a//").c_str(), 1), 0);
-    EXPECT_TRUE(tmpnam(u"", u"p", u"").starts_with(tree.text(u"a/p")));
-    std::FILE* const file = tmpfile(name, u"", u"caf\u00E9", u"txt");
-    ASSERT_NE(file, nullptr);
-    EXPECT_TRUE(name.starts_with(tree.text(u"a/caf\u00E9")) && name.ends_with(u".txt"));
-    EXPECT_TRUE(std::fputs("x", file) >= 0 && std::fseek(file, 0, SEEK_SET) == 0 && std::fgetc(file) == 'x');
-    EXPECT_TRUE(std::fclose(file) == 0 && exists(upath(name)));
 }
 
 TEST_F(TemporaryTest, TheFirstUsableDirectoryOfTheEnvironmentServes) {
@@ -90,11 +81,13 @@ TEST_F(TemporaryTest, TheFirstUsableDirectoryOfTheEnvironmentServes) {
         ustring const found = temp_dir_name({"", std::string("TMPDIR\0", 7), "OWN"});
         EXPECT_EQ(found, row[4] == "=" ? u"/tmp" : tree.text(detail::from_filesystem(row[4])));
     }
+    ASSERT_EQ(::setenv("TMPDIR", (tree.root() / "a//").c_str(), 1), 0);
+    EXPECT_TRUE(tmpnam(u"", u"p", u"").starts_with(tree.text(u"a/p")));
+    std::FILE* const made = tmpfile(name, u"", u"\u00E9", u"txt");
+    EXPECT_TRUE(made && !fclose(made) && name.starts_with(tree.text(u"a/\u00E9")) && name.ends_with(u".txt"));
     ASSERT_EQ(::setenv("TMPDIR", ("X=" + tree.root().string()).c_str(), 1), 0);
     EXPECT_EQ(temp_dir_name({"TMPDIR=X"}), u"/tmp") << "a variable's value, not a variable";
-}
-
-TEST_F(TemporaryTest, WithoutAUsableDirectoryTheLastFailureIsTold) {
+    // Without a usable one the last failure is told.
     ustring const missing = tree.text(u"missing"), file = tree.text(u"file"), loop = tree.text(u"loop");
     auto const last = [](auto... candidates) { detail::first_usable_directory({candidates...}); };
     EXPECT_THROW(last(loop, file, missing), PathNotFound);
