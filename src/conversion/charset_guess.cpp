@@ -1,5 +1,7 @@
 #include "conversion/charset_guess.hpp"
 
+#include "conversion/charset_rules.hpp"
+
 #include <unicode/ucsdet.h>
 
 #include <cstdint>
@@ -54,10 +56,10 @@ charset_match read(UCharsetMatch const* match, std::ostream* diagnostics) {
 } // namespace
 
 std::string guess_charset(std::string_view text, charset_thresholds thresholds, std::string_view fallback,
-                          std::ostream* diagnostics, std::size_t most) {
+                          std::ostream* diagnostics) {
     owned_detector detector; // owns what the guesses point to
     std::vector<charset_match> matches;
-    for (UCharsetMatch const* const match : run(detector, text.substr(0, most), diagnostics)) {
+    for (UCharsetMatch const* const match : run(detector, text.substr(0, icu_slice_bytes), diagnostics)) {
         matches.push_back(read(match, diagnostics));
         if (diagnostics)
             *diagnostics << "Match[" + std::to_string(matches.size() - 1) + "] (" +

@@ -1,7 +1,6 @@
 /// The statistical part of charset detection.
 #pragma once
 
-#include "conversion/charset_rules.hpp"
 #include "conversion/charset_selection.hpp"
 
 #include <iosfwd>
@@ -11,8 +10,8 @@
 namespace fl::i18n::detail {
 
 /// What ICU's detector makes of the text, judged by `select_charset`; `fallback` also if ICU fails. It sees
-/// the first `most` bytes. Guesses and statuses of ICU are told on `diagnostics` unless that is null.
+/// the first `icu_slice_bytes`. Guesses and statuses of ICU are told on `diagnostics` unless that is null.
 std::string guess_charset(std::string_view text, charset_thresholds thresholds, std::string_view fallback,
-                          std::ostream* diagnostics, std::size_t most = icu_slice_bytes);
+                          std::ostream* diagnostics);
 
 } // namespace fl::i18n::detail

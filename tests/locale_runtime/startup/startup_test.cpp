@@ -22,9 +22,8 @@ static std::string with_tree(std::string text) {
     return text;
 }
 
-/// What the probe prints as a new process with these variables and no others; then "exit " and its status if
-/// that isn't
-/// 0. The variable PROBE names the program.
+/// What the probe prints as a new process with these variables and no others; then "exit " and its status
+/// unless that is 0. The variable PROBE names the program.
 static std::string run_probe(std::string const& installed, std::string const& variables,
                              std::string const& commands) {
     std::string line = "env -i PATH=/bin LOCPATH='" + locale_path(installed) + "' PROBE='" FL_I18N_PROBE "'";
