@@ -204,6 +204,10 @@ FL_I18N_EXPORT std::string get_encoding_name_from_alias(std::string_view name);
 FL_I18N_EXPORT std::string get_qn_standard_encoding_name_from_alias(std::string_view name);
 /// @}
 
+/// True if the locale database knows the name of an encoding, or the name that ICU's converter of that name
+/// (`ucnv_open`, `ucnv_getName`) has. Thread-safe.
+FL_I18N_EXPORT bool is_supported_encoding(std::string const& name);
+
 /// True if input from the terminal has the terminal's encoding, as it has on every system served so far.
 FL_I18N_EXPORT bool is_term_encoding_consistent() noexcept;
 

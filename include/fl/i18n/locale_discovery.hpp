@@ -142,10 +142,6 @@ FL_I18N_EXPORT void fix_invalid_std_locale();
 /// mutex.
 FL_I18N_EXPORT original_locale_setting get_original_user_locale_setting();
 
-/// True if the locale database knows the name of an encoding, or the name that ICU's converter of that name
-/// (`ucnv_open`, `ucnv_getName`) has. Thread-safe.
-FL_I18N_EXPORT bool is_supported_encoding(std::string const& name);
-
 /// @}
 
 } // namespace lcmgmt

@@ -2,7 +2,6 @@
 
 #include <fl/i18n/lc_data.hpp>
 #include <fl/i18n/locale_context.hpp>
-#include <fl/i18n/locale_discovery.hpp>
 #include <fl/i18n/locale_exceptions.hpp>
 
 namespace fl::i18n::lcmgmt {

@@ -1,4 +1,4 @@
-#include <fl/i18n/locale_discovery.hpp>
+#include <fl/i18n/locale_context.hpp>
 
 #include <gtest/gtest.h>
 
