@@ -16,7 +16,7 @@ install(TARGETS fl_i18n EXPORT fl_i18n_targets
   INCLUDES DESTINATION include)
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/fl" DESTINATION include
   FILES_MATCHING PATTERN "*.hpp")
-install(FILES "${PROJECT_SOURCE_DIR}/src/locale_data/lcdata.xml" DESTINATION bin)
+install(FILES "${PROJECT_SOURCE_DIR}/src/locale_data/xml/lcdata.xml" DESTINATION bin)
 install(DIRECTORY DESTINATION resources)
 
 install(EXPORT fl_i18n_targets NAMESPACE fl:: FILE fl_i18nTargets.cmake DESTINATION "${fl_i18n_package_dir}")

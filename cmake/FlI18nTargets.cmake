@@ -18,30 +18,77 @@ if(FL_I18N_BUILD_FUZZERS)
   target_compile_options(fl_i18n_settings INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
+set(CMAKE_CXX_EXTENSIONS OFF)
 find_program(FL_I18N_CCACHE ccache)
 mark_as_advanced(FL_I18N_CCACHE)
+if(FL_I18N_CCACHE AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${FL_I18N_CCACHE}")
+endif()
 
-# fl_i18n_add_layer(NAME SOURCES source... [DEPENDS library...])
+# fl_i18n_layer_library(NAME RESULT): the target of a layer, which is named as its folder.
+function(fl_i18n_layer_library name result)
+  string(REPLACE "/" "_" target "${name}")
+  set(${result} fl_i18n_${target} PARENT_SCOPE)
+endfunction()
+
+# fl_i18n_add_layer([HEADERS header...] [OFFERS header...] [SOURCES source...] [DEPENDS layer-or-library...])
 #
-# A layer is one folder of src/ (or one floor of it), built as a static library that names the layers below it.
-# The shared library is all layers in one; a test of a layer links to that layer, and so reaches its internals
-# but nothing above it.
-function(fl_i18n_add_layer name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;DEPENDS")
-  add_library(fl_i18n_${name} STATIC ${arg_SOURCES})
-  target_include_directories(fl_i18n_${name} PUBLIC
-    "${PROJECT_SOURCE_DIR}/include" "${PROJECT_SOURCE_DIR}/src")
-  target_link_libraries(fl_i18n_${name} PUBLIC fl_i18n_settings ${arg_DEPENDS})
-  if(NOT APPLE) # where no symbol can be replaced from outside anyway
-    target_compile_options(fl_i18n_${name} PRIVATE -fno-semantic-interposition)
+# A layer is a leaf folder of src/ and is named by it: src/text/matching is the layer text/matching and the static
+# library fl_i18n_text_matching. The shared library is all layers in one; a test of a layer links to that layer, and
+# so reaches its internals but nothing above it.
+#
+#   HEADERS  the public headers that it implements, below include/fl/
+#   OFFERS   those of its private headers that layers above may include
+#   DEPENDS  the layers that it stands on, by folder, and libraries. All that these stand on may be used as well.
+function(fl_i18n_add_layer)
+  cmake_parse_arguments(PARSE_ARGV 0 arg "" "" "HEADERS;OFFERS;SOURCES;DEPENDS")
+  file(RELATIVE_PATH layer "${PROJECT_SOURCE_DIR}/src" "${CMAKE_CURRENT_SOURCE_DIR}")
+  fl_i18n_layer_library(${layer} target)
+  get_property(layers GLOBAL PROPERTY fl_i18n_layers)
+  set(below)
+  set(libraries)
+  foreach(dependency IN LISTS arg_DEPENDS)
+    if(dependency IN_LIST layers)
+      list(APPEND below ${dependency})
+      fl_i18n_layer_library(${dependency} dependency)
+    endif()
+    list(APPEND libraries ${dependency})
+  endforeach()
+
+  if(arg_SOURCES)
+    set(scope PUBLIC)
+    add_library(${target} STATIC ${arg_SOURCES})
+    if(NOT APPLE) # where no symbol can be replaced from outside anyway
+      target_compile_options(${target} PRIVATE -fno-semantic-interposition)
+    endif()
+    set_target_properties(${target} PROPERTIES
+      POSITION_INDEPENDENT_CODE ON
+      CXX_VISIBILITY_PRESET hidden
+      VISIBILITY_INLINES_HIDDEN ON)
+    set_property(GLOBAL APPEND PROPERTY fl_i18n_layer_libraries ${target})
+  else()
+    set(scope INTERFACE)
+    add_library(${target} INTERFACE)
   endif()
-  set_target_properties(fl_i18n_${name} PROPERTIES
-    POSITION_INDEPENDENT_CODE ON
-    CXX_EXTENSIONS OFF
-    CXX_VISIBILITY_PRESET hidden
-    VISIBILITY_INLINES_HIDDEN ON)
-  if(FL_I18N_CCACHE)
-    set_target_properties(fl_i18n_${name} PROPERTIES CXX_COMPILER_LAUNCHER "${FL_I18N_CCACHE}")
-  endif()
-  set_property(GLOBAL APPEND PROPERTY fl_i18n_layers fl_i18n_${name})
+  target_include_directories(${target} ${scope} "${PROJECT_SOURCE_DIR}/include" "${PROJECT_SOURCE_DIR}/src")
+  target_link_libraries(${target} ${scope} fl_i18n_settings ${libraries})
+
+  set_property(GLOBAL APPEND PROPERTY fl_i18n_layers ${layer})
+  foreach(part HEADERS OFFERS below)
+    set(list ${arg_${part}})
+    if(part STREQUAL "below")
+      set(list ${below})
+    endif()
+    string(TOLOWER ${part} name)
+    set_property(GLOBAL APPEND_STRING PROPERTY fl_i18n_layer_lists "set(${layer}_${name} ${list})\n")
+  endforeach()
+endfunction()
+
+# Writes what the layers are and stand on, for the checks that hold the sources to it.
+function(fl_i18n_write_layers file)
+  get_property(layers GLOBAL PROPERTY fl_i18n_layers)
+  get_property(lists GLOBAL PROPERTY fl_i18n_layer_lists)
+  string(REPLACE ";" " " layers "${layers}")
+  string(REPLACE ";" " " lists "${lists}")
+  file(CONFIGURE OUTPUT "${file}" CONTENT "set(layers ${layers})\n${lists}" @ONLY)
 endfunction()

@@ -2,7 +2,7 @@
 /// each test takes a process of its own.
 #pragma once
 
-#include "locale_data/rows.hpp"
+#include "support/rows.hpp"
 #include "support/temp_tree.hpp"
 
 #include <fl/i18n/locale.hpp>

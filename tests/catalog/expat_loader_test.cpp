@@ -1,6 +1,6 @@
-#include "locale_data/rows.hpp"
 #include "support/failure.hpp"
 #include "support/raise.hpp"
+#include "support/rows.hpp"
 #include "support/temp_tree.hpp"
 
 #include <fl/i18n/expat_loader.hpp>

@@ -2,7 +2,7 @@
 // facets, and that which reads through its streams.
 
 #include "date_time/input_rows.hpp"
-#include "locale_runtime/char16_streams.hpp"
+#include "locale_runtime/context/char16_streams.hpp"
 
 #include <fl/i18n/locale.hpp>
 

@@ -1,8 +1,8 @@
 #include "filesystem/directory/directory_entry_context.hpp"
 
+#include "filesystem/files/volume.hpp"
 #include "filesystem/primitives/error_number.hpp"
 #include "filesystem/primitives/utf8_name.hpp"
-#include "filesystem/volume.hpp"
 #include "platform/platform.hpp"
 
 #include <fl/filesystem/file_status.hpp>

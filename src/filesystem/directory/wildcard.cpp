@@ -1,6 +1,6 @@
 #include "filesystem/directory/wildcard.hpp"
 
-#include "text/unit_search.hpp"
+#include "text/characters/unit_search.hpp"
 
 #include <unicode/utf16.h>
 

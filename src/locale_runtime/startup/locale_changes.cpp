@@ -1,5 +1,5 @@
 // What may replace the global locale once it is there.
-#include "locale_runtime/global_locale_slot.hpp"
+#include "locale_runtime/context/global_locale_slot.hpp"
 #include "locale_runtime/startup/l10n_control.hpp"
 
 #include <fl/i18n/discovery_record.hpp>

@@ -1,4 +1,4 @@
-#include "text/case_mapping.hpp"
+#include "text/characters/case_mapping.hpp"
 
 #include <fl/i18n/locale.hpp>
 #include <fl/i18n/transform.hpp>

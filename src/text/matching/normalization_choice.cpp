@@ -1,6 +1,6 @@
 #include "text/matching/normalization_choice.hpp"
 
-#include "text/normalization.hpp"
+#include "text/characters/normalization.hpp"
 
 #include <fl/i18n/ctype_exception.hpp>
 

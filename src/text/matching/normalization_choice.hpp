@@ -1,7 +1,7 @@
 /// What a character handling mode means for the texts of a matcher.
 #pragma once
 
-#include "text/text_buffer.hpp"
+#include "text/characters/text_buffer.hpp"
 
 #include <fl/i18n/character_handling_mode.hpp>
 

@@ -1,7 +1,7 @@
-#include "../changes.hpp"
-#include "../rows.hpp"
+#include "locale_data/database/changes.hpp"
 #include "support/failure.hpp"
 #include "support/raise.hpp"
+#include "support/rows.hpp"
 #include "support/temp_tree.hpp"
 
 #include <fl/i18n/lc_data_xml.hpp>

@@ -1,0 +1,77 @@
+#include "conversion/codecs/ascii_scan.hpp"
+#include "support/raise.hpp"
+
+#include <fl/i18n/codecvt_ascii.hpp>
+#include <fl/i18n/cvt_exception.hpp>
+
+#include <algorithm>
+
+namespace fl::i18n {
+
+namespace {
+
+template <class Unit>
+unsigned long checked_size(Unit const* src, unsigned long src_len, bool substitute_invalid) {
+    if (!src)
+        return 0;
+    if (!substitute_invalid && !detail::is_ascii_text(src, src_len))
+        support::raise(CvtInvalidCharacter());
+    return src_len;
+}
+
+char narrow(char16_t c) noexcept {
+    return detail::is_ascii_unit(c) ? static_cast<char>(c) : '\xFF';
+}
+
+char16_t widen(char c) noexcept {
+    return detail::is_ascii_unit(c) ? static_cast<char16_t>(c) : u'\uFFFD';
+}
+
+} // namespace
+
+unsigned long codecvt_ustring_to_ascii::do_get_destination_size(char16_t const* src,
+                                                                unsigned long src_len) const {
+    return checked_size(src, src_len, substitute_invalid_);
+}
+
+std::string codecvt_ustring_to_ascii::do_convert(char16_t const* src, unsigned long src_len) const {
+    std::string result(checked_size(src, src_len, substitute_invalid_), '\0');
+    std::transform(src, src + result.size(), result.begin(), narrow);
+    return result;
+}
+
+unsigned long codecvt_ustring_to_ascii::do_convert(char* dst, unsigned long dst_len, char16_t const* src,
+                                                   unsigned long src_len) const {
+    if (!dst)
+        return 0;
+    unsigned long const size = checked_size(src, std::min(src_len, dst_len), substitute_invalid_);
+    for (unsigned long i = 0; i != size; ++i)
+        dst[i] = narrow(src[i]);
+    return size;
+}
+
+unsigned long codecvt_ascii_to_ustring::do_get_destination_size(char const* src,
+                                                                unsigned long src_len) const {
+    return checked_size(src, src_len, substitute_invalid_);
+}
+
+ustring codecvt_ascii_to_ustring::do_convert(char const* src, unsigned long src_len) const {
+    ustring result(checked_size(src, src_len, substitute_invalid_), u'\0');
+    std::transform(src, src + result.size(), result.begin(), widen);
+    return result;
+}
+
+unsigned long codecvt_ascii_to_ustring::do_convert(char16_t* dst, unsigned long dst_len, char const* src,
+                                                   unsigned long src_len) const {
+    if (!dst || !src)
+        return 0;
+    unsigned long const size = std::min(src_len, dst_len);
+    for (unsigned long i = size; i != 0; --i) {
+        if (!substitute_invalid_ && !detail::is_ascii_unit(src[i - 1]))
+            support::raise(CvtInvalidCharacter());
+        dst[i - 1] = widen(src[i - 1]);
+    }
+    return size;
+}
+
+} // namespace fl::i18n

@@ -1,0 +1,23 @@
+#include "conversion/codecs/conversion_status.hpp"
+
+#include "support/raise.hpp"
+
+#include <fl/i18n/cvt_exception.hpp>
+
+namespace fl::i18n::detail {
+
+void raise_conversion_failure(UErrorCode status) {
+    if (status == U_ILLEGAL_CHAR_FOUND || status == U_INVALID_CHAR_FOUND)
+        support::raise(CvtInvalidCharacter());
+    support::raise(CvtConversionFailure());
+}
+
+void check_conversion_status(UErrorCode status, std::size_t src_len, std::size_t long_source) {
+    if (U_SUCCESS(status) || status == U_BUFFER_OVERFLOW_ERROR)
+        return;
+    if (src_len >= long_source)
+        support::raise(CvtSizeTooLarge());
+    raise_conversion_failure(status);
+}
+
+} // namespace fl::i18n::detail

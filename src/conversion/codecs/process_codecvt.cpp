@@ -1,0 +1,59 @@
+#include "locale_runtime/context/global_locale_slot.hpp"
+#include "support/raise.hpp"
+
+#include <fl/i18n/cvt_exception.hpp>
+#include <fl/i18n/locale.hpp>
+#include <fl/i18n/string_conversion.hpp>
+
+#include <unicode/ucnv.h>
+
+#include <utility>
+
+namespace fl::i18n::lcmgmt {
+
+namespace {
+
+using owned_converter = std::unique_ptr<UConverter, lcctype::converter_close>;
+
+/// A clone of the slot's master, or null. Cloning only reads the master, so threads may clone at the same
+/// time.
+owned_converter clone_master(global_locale_slot const& slot) {
+    UConverter* const master = slot.master();
+    if (!master)
+        return nullptr;
+    UErrorCode status = U_ZERO_ERROR;
+    owned_converter clone(ucnv_clone(master, &status));
+    return U_SUCCESS(status) ? std::move(clone) : nullptr;
+}
+
+owned_converter open_process_encoding() {
+    UErrorCode status = U_ZERO_ERROR;
+    owned_converter opened(ucnv_open(QnLocale::global().encoding().c_str(), &status));
+    if (U_FAILURE(status) || !opened)
+        support::raise(CvtConversionFailure());
+    return opened;
+}
+
+owned_converter clone_codecvt(global_locale_slot const& slot) {
+    owned_converter clone = clone_master(slot);
+    return clone ? std::move(clone) : open_process_encoding();
+}
+
+} // namespace
+
+owned_converter clone_codecvt() {
+    return clone_codecvt(current_global_locale_slot());
+}
+
+UConverter* get_cached_codecvt() {
+    // The cache lives in the slot, so a change of the locale leaves every thread with an empty one.
+    global_locale_slot& slot = current_global_locale_slot();
+    if (!slot.thread_converter().get()) {
+        auto context = std::make_unique<lcctype::code_converter_context>();
+        context->converter = clone_codecvt(slot);
+        slot.thread_converter().reset(context.release());
+    }
+    return slot.thread_converter()->converter.get();
+}
+
+} // namespace fl::i18n::lcmgmt

@@ -1,0 +1,101 @@
+#include "conversion/codecs/ascii_scan.hpp"
+#include "conversion/codecs/conversion_status.hpp"
+#include "support/icu_length.hpp"
+#include "support/raise.hpp"
+#include "support/sized_result.hpp"
+
+#include <fl/i18n/codecvt.hpp>
+#include <fl/i18n/cvt_exception.hpp>
+#include <fl/i18n/string_conversion.hpp>
+
+#include <unicode/ustring.h>
+
+#include <algorithm>
+
+namespace fl::i18n {
+
+namespace {
+
+constexpr UChar32 replacement_character = 0xFFFD;
+
+// The longest texts that ICU is asked to convert in one call.
+constexpr unsigned long icu_utf16_limit = 0x3FFFFFFE;
+constexpr unsigned long icu_utf8_limit = 0x7FFFFFFE;
+
+constexpr auto too_large = [] { support::raise(CvtSizeTooLarge()); };
+constexpr auto unstable = [] { support::raise(CvtConversionFailure()); };
+
+/// ASCII means the same in both forms.
+template <class String, class Unit>
+String copy_ascii(Unit const* s, unsigned long len) {
+    String result(len, typename String::value_type());
+    std::transform(s, s + len, result.begin(),
+                   [](Unit c) { return static_cast<typename String::value_type>(c); });
+    return result;
+}
+
+std::size_t to_utf8(char* dst, std::size_t capacity, char16_t const* src, std::size_t src_len) {
+    std::int32_t size = 0;
+    UErrorCode status = U_ZERO_ERROR;
+    u_strToUTF8WithSub(dst, support::to_icu_length(capacity, too_large), &size, src,
+                       support::to_icu_length(src_len, too_large), replacement_character, nullptr, &status);
+    detail::check_conversion_status(status, src_len, detail::long_utf16_source);
+    return support::from_icu_length(size, 0, too_large);
+}
+
+std::size_t from_utf8(char16_t* dst, std::size_t capacity, char const* src, std::size_t src_len) {
+    std::int32_t size = 0;
+    UErrorCode status = U_ZERO_ERROR;
+    u_strFromUTF8WithSub(dst, support::to_icu_length(capacity, too_large), &size, src,
+                         support::to_icu_length(src_len, too_large), replacement_character, nullptr, &status);
+    detail::check_conversion_status(status, src_len, detail::long_narrow_source);
+    return support::from_icu_length(size, 0, too_large);
+}
+
+} // namespace
+
+std::string ustring_to_utf8(char16_t const* s, unsigned long len) {
+    if (!s)
+        return std::string();
+    if (detail::is_ascii_text(s, len))
+        return copy_ascii<std::string>(s, len);
+    if (len > icu_utf16_limit)
+        return codecvt_ustring_to_string("UTF-8", true).convert(s, len);
+    auto const convert = [&](char* dst, std::size_t capacity) { return to_utf8(dst, capacity, s, len); };
+    return support::sized_result<std::string>(len, convert, unstable);
+}
+
+std::string ustring_to_utf8(ustring const& s) {
+    return ustring_to_utf8(s.data(), s.size());
+}
+
+std::string ustring_to_utf8(char16_t const* s) {
+    return s ? ustring_to_utf8(s, std::char_traits<char16_t>::length(s)) : std::string();
+}
+
+std::string ustring_to_utf8(std::basic_string_view<char16_t> s) {
+    return ustring_to_utf8(s.data(), s.size());
+}
+
+ustring utf8_to_ustring(char const* s, unsigned long len) {
+    if (!s)
+        return ustring();
+    if (detail::is_ascii_text(s, len))
+        return copy_ascii<ustring>(s, len);
+    if (len > icu_utf8_limit)
+        return codecvt_string_to_ustring("UTF-8", true).convert(s, len);
+    auto const convert = [&](char16_t* dst, std::size_t capacity) {
+        return from_utf8(dst, capacity, s, len);
+    };
+    return support::sized_result<ustring>(len, convert, unstable);
+}
+
+ustring utf8_to_ustring(std::string const& s) {
+    return utf8_to_ustring(s.data(), s.size());
+}
+
+ustring utf8_to_ustring(char const* s) {
+    return s ? utf8_to_ustring(s, std::char_traits<char>::length(s)) : ustring();
+}
+
+} // namespace fl::i18n

@@ -1,0 +1,75 @@
+#include "text/characters/case_mapping.hpp"
+
+#include "text/characters/prefix_transform.hpp"
+#include "text/characters/transform_length.hpp"
+#include "text/characters/unit_run.hpp"
+
+#include <fl/i18n/transform.hpp>
+
+#include <functional>
+
+namespace fl::i18n::detail {
+
+namespace {
+
+// A run of ASCII at the start of a text is mapped here by the root rules, in a fraction of ICU's time. It
+// ends with a space, or with the text, unless it is empty: the mapping of sigma depends on the letters before
+// it, but never looks beyond a space.
+std::size_t ascii_run(char16_t const* src, std::size_t src_len) noexcept {
+    std::size_t size = run_below(ascii_limit, {src, src_len});
+    if (size < src_len)
+        while (size > 0 && src[size - 1] != u' ')
+            --size;
+    return size;
+}
+
+// Whether the mapping goes over its own source: ICU can do that.
+bool overlaps(char16_t const* dst, std::size_t dst_len, char16_t const* src, std::size_t src_len) noexcept {
+    std::less<> const before;
+    return before(dst, src + src_len) && before(src, dst + dst_len);
+}
+
+template <char16_t (&MapUnit)(char16_t) noexcept>
+unsigned long map_by_root_rules(case_function& function, char16_t* dst, unsigned long dst_len,
+                                char16_t const* src, unsigned long src_len) {
+    if (!src || src_len == 0)
+        return 0;
+    std::size_t const capacity = dst ? dst_len : 0;
+    checked_length(capacity);
+    checked_length(src_len);
+    if (overlaps(dst, capacity, src, src_len))
+        return map_case(function, "", dst, dst_len, src, src_len);
+    return transform_behind_prefix(
+        ascii_run(src, src_len), dst, capacity, {src, src_len},
+        [](char16_t const* from, std::size_t size, char16_t* to) {
+            for (std::size_t i = 0; i < size; ++i)
+                to[i] = MapUnit(from[i]);
+        },
+        [&](char16_t* rest, std::size_t room, std::u16string_view text) {
+            return map_case(function, "", rest, room, text.data(), text.size());
+        });
+}
+
+} // namespace
+
+unsigned long map_case(case_function& function, char const* locale, char16_t* dst, unsigned long dst_len,
+                       char16_t const* src, unsigned long src_len) {
+    if (!src || src_len == 0)
+        return 0;
+    std::int32_t const capacity = dst ? checked_length(dst_len) : 0;
+    UErrorCode status = U_ZERO_ERROR;
+    std::int32_t const size = function(dst, capacity, src, checked_length(src_len), locale, &status);
+    return transformed_length(size, status);
+}
+
+unsigned long transform(char16_t* dst, unsigned long dst_len, char16_t const* src, unsigned long src_len,
+                        to_upper const&) {
+    return map_by_root_rules<to_ascii_upper>(u_strToUpper, dst, dst_len, src, src_len);
+}
+
+unsigned long transform(char16_t* dst, unsigned long dst_len, char16_t const* src, unsigned long src_len,
+                        to_lower const&) {
+    return map_by_root_rules<to_ascii_lower>(u_strToLower, dst, dst_len, src, src_len);
+}
+
+} // namespace fl::i18n::detail

@@ -1,0 +1,154 @@
+#include "text/characters/text_samples.hpp"
+
+#include <fl/i18n/code_points.hpp>
+#include <fl/i18n/locale.hpp>
+#include <fl/i18n/transform.hpp>
+
+#include <unicode/translit.h>
+#include <unicode/uchar.h>
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+#include <typeinfo>
+#include <vector>
+
+using namespace fl::i18n;
+using namespace fl::testing;
+using fl::ustring;
+
+// By the transliterator whose result is promised.
+static ustring transliterate(ustring const& text) {
+    static UErrorCode status = U_ZERO_ERROR;
+    static auto const* const transliterator = icu::Transliterator::createInstance(
+        for_icu(u"any-NFD; [:Nonspacing_Mark:] any-Remove; any-NFC"), UTRANS_FORWARD, status);
+    icu::UnicodeString result = for_icu(text);
+    transliterator->transliterate(result);
+    return by_icu(result);
+}
+
+// From a block of the source's exact size, for the sanitizer's eyes, into buffers of sizes around the
+// result's: the answer is always the full length, the result is there where it fits, with ICU's NUL behind
+// it, and no unit behind the buffer changes. The removal of diacritics has a contract of its own.
+template <class Tag>
+static void expect_result(Tag const& tag, ustring const& source, ustring const& expected) {
+    SCOPED_TRACE(typeid(tag).name() + testing::PrintToString(source));
+    constexpr bool is_icus = !std::is_same_v<Tag, to_no_diacritics>;
+    std::vector<char16_t> const src(source.begin(), source.end());
+    std::size_t const size = expected.size();
+    if (!is_icus && size > source.size()) {
+        EXPECT_THROW(detail::transform(nullptr, 0, src.data(), src.size(), tag), CtypeTransformFailure);
+        return;
+    }
+    ustring const whole = expected + (is_icus && !source.empty() ? u'\0' : u'#');
+    ASSERT_EQ(detail::transform(nullptr, 99, src.data(), src.size(), tag), size);
+    for (std::size_t const room : {std::size_t(0), size / 2, size - (size > 0), size, size + 1, size + 3}) {
+        ustring dst(room + 4, u'#');
+        ASSERT_EQ(detail::transform(dst.data(), room, src.data(), src.size(), tag),
+                  is_icus || source.empty() ? size : std::max(size, room));
+        ASSERT_TRUE((room < size && is_icus) || dst.starts_with(whole.substr(0, room))) << room;
+        ASSERT_EQ(dst.substr(room), u"####") << room;
+    }
+    constexpr unsigned long too_large = 0x80000000UL;
+    char16_t dst[1];
+    if (source.empty()) {
+        EXPECT_EQ(detail::transform(dst, too_large, nullptr, 5, tag), 0u);
+        EXPECT_THROW(detail::transform(dst, 1, u"a", too_large, tag), CtypeSizeTooLarge);
+        if constexpr (is_icus) {
+            EXPECT_THROW(detail::transform(dst, too_large, u"a", 1, tag), CtypeSizeTooLarge);
+        }
+    }
+}
+
+static void expect_all_as_icu(ustring const& source) {
+    static auto const turkish = QnLocale::createLocale("de_DE", QnLocale::ctype, "tr_TR");
+    static auto const lithuanian = QnLocale::createLocale("lt_LT");
+    expect_result(to_upper(), source, by_icu(for_icu(source).toUpper("")));
+    expect_result(to_lower(), source, by_icu(for_icu(source).toLower("")));
+    expect_result(to_upper_locale(*turkish), source, by_icu(for_icu(source).toUpper("tr_TR")));
+    expect_result(to_lower_locale(*lithuanian), source, by_icu(for_icu(source).toLower("lt_LT")));
+    expect_result(to_nfd(), source, icu_form(source, icu::Normalizer2::getNFDInstance));
+    expect_result(to_nfc(), source, icu_form(source, icu::Normalizer2::getNFCInstance));
+    expect_result(to_nfkc(), source, icu_form(source, icu::Normalizer2::getNFKCInstance));
+    expect_result(to_nfkd(), source, icu_form(source, icu::Normalizer2::getNFKDInstance));
+    // Halves of a pair with a mark between them are mended for the transliterator: once the mark has gone, it
+    // takes them for a pair, loses count and overlooks the next mark.
+    ustring const mended = lcctype::codecvt_from_u32(lcctype::codecvt_to_u32(source));
+    expect_result(to_no_diacritics(), mended, transliterate(mended));
+}
+
+// 64 at a time, each behind a letter and before one: context counts for some.
+TEST(Transform, EveryCodePointGoesAsByIcu) {
+    for (char32_t point = 0; point <= 0x10FFFF && !HasFatalFailure(); point += 64) {
+        std::u32string points = U"Before ";
+        for (char32_t c = point; c < point + 64; ++c)
+            points += {U'A', c};
+        expect_all_as_icu(lcctype::codecvt_from_u32(points));
+    }
+}
+
+TEST(Transform, MixedTextsGoAsByIcu) {
+    std::mt19937 random(53);
+    for (int round = 0; round < 3000 && !HasFatalFailure(); ++round)
+        expect_all_as_icu(sample_text(random, 12));
+    expect_all_as_icu(u"");
+    expect_all_as_icu(ustring(3000, u'\u1F82')); // four units in NFD: beyond any guess
+}
+
+TEST(Transform, CaseAndDiacriticsGoOverTheirOwnSource) {
+    ustring const text = u"plain ASCII, and then Stra\u00DFe \u03A3\u03A3. And plain again, for a block";
+    for (std::size_t const shift : {0U, 1U, 5U, 40U}) {
+        ustring buffer = ustring(shift, u'#') + text + u"##";
+        detail::transform(buffer.data(), buffer.size(), &buffer[shift], text.size(), to_upper());
+        EXPECT_TRUE(buffer.starts_with(by_icu(for_icu(text).toUpper("")))) << shift;
+        buffer = text + ustring(shift, u'#');
+        detail::transform(&buffer[shift], text.size(), buffer.data(), text.size(), to_lower());
+        EXPECT_EQ(buffer.substr(shift), by_icu(for_icu(text).toLower(""))) << shift;
+        buffer = text + ustring(shift, u'#');
+        detail::transform(&buffer[shift], text.size(), buffer.data(), text.size(), to_no_diacritics());
+        EXPECT_EQ(buffer.substr(shift), text) << shift;
+    }
+    ustring same = u"r\u00E9sum\u00E9";
+    EXPECT_THROW(detail::transform(same.data(), 4, same.data(), 4, to_nfc()), CtypeTransformFailure);
+    EXPECT_EQ(detail::do_transform(same.data(), same.size(), to_no_diacritics()), u"resume");
+    EXPECT_EQ(detail::do_transform(same, to_no_diacritics()), u"resume");
+    EXPECT_TRUE(detail::do_transform(nullptr, 7, to_no_diacritics()).empty());
+    EXPECT_THROW(detail::do_transform(same = u"a\U0001D15E", to_no_diacritics()), CtypeTransformFailure);
+    EXPECT_EQ(same, u"a\U0001D15E") << "would grow, as a symbol that comes apart for good";
+}
+
+// The first five columns; empty for a comment.
+static std::array<ustring, 5> columns(char* line) {
+    std::array<ustring, 5> result;
+    for (ustring& column : result) {
+        while (auto const c = static_cast<char32_t>(std::strtoul(line, &line, 16)))
+            column += lcctype::codecvt_from_u32(&c, 1);
+        line += *line == ';';
+    }
+    return result;
+}
+
+// Unicode's own table of cases, plain or as Debian has it.
+TEST(Transform, NormalizationConformsToTheTableOfUnicode) {
+    std::unique_ptr<std::FILE, int (*)(std::FILE*)> const table(
+        popen("bzip2 -dcf /usr/share/unicode/NormalizationTest.txt* 2>/dev/null", "r"), pclose);
+    char line[4096] = "";
+    if (!std::fgets(line, sizeof line, table.get()) || !std::strstr(line, U_UNICODE_VERSION))
+        GTEST_SKIP() << "No NormalizationTest.txt of Unicode " U_UNICODE_VERSION " (Debian: unicode-data)";
+    ustring const before = u"As long as a block of units, and more: "; // nothing joins with its last space
+    int rows = 0;
+    while (std::fgets(line, sizeof line, table.get()) && !HasFailure()) {
+        auto const c = columns(line);
+        rows += c[4].empty() ? 0 : 1;
+        SCOPED_TRACE(line);
+        for (std::size_t i = 0; i < 5; ++i) {
+            expect_result(to_nfc(), c[i], c[i < 3 ? 1 : 3]);
+            expect_result(to_nfd(), before + c[i], before + c[i < 3 ? 2 : 4]);
+            expect_result(to_nfkc(), c[i], c[3]);
+            expect_result(to_nfkd(), before + c[i], before + c[4]);
+        }
+    }
+    EXPECT_GT(rows, 18000);
+}
