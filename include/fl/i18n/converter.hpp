@@ -23,6 +23,7 @@
 #include <boost/core/noncopyable.hpp>
 
 #include <string>
+#include <string_view>
 
 namespace fl::i18n {
 
@@ -42,6 +43,9 @@ public:
     /// The converted text.
     std::basic_string<To> convert(From const* src, unsigned long src_len) const {
         return do_convert(src, src_len);
+    }
+    std::basic_string<To> convert(std::basic_string_view<From> text) const {
+        return do_convert(text.data(), text.size());
     }
 
     /// Converts into a buffer of `dst_len` units. Converters differ in what they answer when it is too small:

@@ -1,5 +1,6 @@
 #include "text/characters/case_mapping.hpp"
 
+#include "support/ascii.hpp"
 #include "text/characters/prefix_transform.hpp"
 #include "text/characters/transform_length.hpp"
 #include "text/characters/unit_run.hpp"
@@ -64,12 +65,12 @@ unsigned long map_case(case_function& function, char const* locale, char16_t* ds
 
 unsigned long transform(char16_t* dst, unsigned long dst_len, char16_t const* src, unsigned long src_len,
                         to_upper const&) {
-    return map_by_root_rules<to_ascii_upper>(u_strToUpper, dst, dst_len, src, src_len);
+    return map_by_root_rules<support::to_ascii_upper>(u_strToUpper, dst, dst_len, src, src_len);
 }
 
 unsigned long transform(char16_t* dst, unsigned long dst_len, char16_t const* src, unsigned long src_len,
                         to_lower const&) {
-    return map_by_root_rules<to_ascii_lower>(u_strToLower, dst, dst_len, src, src_len);
+    return map_by_root_rules<support::to_ascii_lower>(u_strToLower, dst, dst_len, src, src_len);
 }
 
 } // namespace fl::i18n::detail

@@ -1,3 +1,4 @@
+#include "support/ascii.hpp"
 #include "text/characters/normalization.hpp"
 #include "text/characters/transform_length.hpp"
 #include "text/characters/unit_run.hpp"
@@ -57,7 +58,7 @@ bool is_ascii_at(view text, std::size_t at) noexcept {
 int ascii_rank(view text, std::size_t at, skip_rule rule) noexcept {
     if (at == text.size())
         return -1;
-    return rule.folds_case ? to_ascii_lower(text[at]) : text[at];
+    return rule.folds_case ? support::to_ascii_lower(text[at]) : text[at];
 }
 
 // The answer where it can be told without ICU. Otherwise `a` and `b` are cut down to what ICU must see.

@@ -5,6 +5,8 @@
 /// block have no exit, which lets the compiler turn each into a few vector instructions.
 #pragma once
 
+#include "support/ascii.hpp"
+
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -53,13 +55,6 @@ inline std::size_t run_below(char16_t limit, std::u16string_view text) noexcept 
     return run_of(text.size(), [=](std::size_t i) { return units[i] < limit; });
 }
 
-constexpr char16_t to_ascii_lower(char16_t unit) noexcept {
-    return static_cast<char16_t>(unit + (unit >= u'A' && unit <= u'Z' ? 0x20 : 0));
-}
-constexpr char16_t to_ascii_upper(char16_t unit) noexcept {
-    return static_cast<char16_t>(unit - (unit >= u'a' && unit <= u'z' ? 0x20 : 0));
-}
-
 /// The length of the prefix that `a` and `b`, of `size` units each, have in common.
 inline std::size_t common_run(char16_t const* a, char16_t const* b, std::size_t size) noexcept {
     constexpr std::size_t word_units = sizeof(std::uint64_t) / sizeof(char16_t);
@@ -85,7 +80,8 @@ inline std::size_t common_run(char16_t const* a, char16_t const* b, std::size_t 
 
 /// The same with ASCII letters equal in both cases.
 inline std::size_t common_run_without_case(char16_t const* a, char16_t const* b, std::size_t size) noexcept {
-    return run_of(size, [=](std::size_t i) { return to_ascii_lower(a[i]) == to_ascii_lower(b[i]); });
+    return run_of(
+        size, [=](std::size_t i) { return support::to_ascii_lower(a[i]) == support::to_ascii_lower(b[i]); });
 }
 
 } // namespace fl::i18n::detail
