@@ -36,13 +36,13 @@ TEST_F(AdditionalLocations, RefuseWhatTheyCannotUse) {
 TEST_F(AdditionalLocations, WinOnlyByABetterLocaleAndTakeTheirCatalogsWithThem) {
     // Locale, catalog, and which one answers before they come, while they are there and behind them.
     auto const table =
-        rows<5>("de_CH app:text main/app/de/text addon/app/de_CH/text main/app/de/text "
-                "de_DE app:text main/app/de/text main/app/de/text main/app/de/text "
-                "ja_JP extra:sub:deep:leaf none addon/extra/en/sub/deep/leaf none "
-                "en_US app:third none third/app/en/third third/app/en/third "
-                "fr_FR app:second none addon/app/en/second none "
-                // Not among the English files, by which the catalogs of a location are known:
-                "de_DE app:only_german none addon/app/de/only_german addon/app/de/only_german");
+        fl::testing::rows<5>("de_CH app:text main/app/de/text addon/app/de_CH/text main/app/de/text "
+                             "de_DE app:text main/app/de/text main/app/de/text main/app/de/text "
+                             "ja_JP extra:sub:deep:leaf none addon/extra/en/sub/deep/leaf none "
+                             "en_US app:third none third/app/en/third third/app/en/third "
+                             "fr_FR app:second none addon/app/en/second none "
+                             // Not among the English files, by which the catalogs of a location are known:
+                             "de_DE app:only_german none addon/app/de/only_german addon/app/de/only_german");
     auto const expect_answers = [&](std::size_t column) {
         for (auto const& row : table)
             EXPECT_EQ(row[column], answer(row[0].c_str(), row[1])) << row[0] << row[1] << column;
@@ -66,7 +66,7 @@ TEST_F(AdditionalLocations, StayWhenTheirRemovalFails) {
     add({addon_});
     file("addon/resources/no_component.xml");
     for (auto const& [name, reason] :
-         rows<2>("app/en/bad-name.xml Bad  app/en/n\u00e4me.xml ~  german/de/x ~")) {
+         fl::testing::rows<2>("app/en/bad-name.xml Bad  app/en/n\u00e4me.xml ~  german/de/x ~")) {
         std::filesystem::path const bad = file("addon/resources/" + name);
         auto const told = failure<MessageCatalog::ResPathRemovalUnknownError>(remove_root, addon_);
         EXPECT_EQ(told.find("Unknown error while removal of path! Error : " + reason), 0U) << name;

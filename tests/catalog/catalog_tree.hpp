@@ -15,10 +15,10 @@ namespace fl::testing {
 /// "main" and "addon" share some catalogs; "bare" has no resources.
 struct catalog_tree : ::testing::Test, temp_tree {
     catalog_tree() {
-        for (auto const& [root, name] :
-             rows<2>("main app/en/text  main app/de/text  third app/en/third  addon app/en/text  "
-                     "addon app/de/text  addon app/de_CH/text  addon app/fr/text  addon app/en/second  "
-                     "addon app/de/only_german  addon extra/en/sub/deep/leaf"))
+        for (auto const& [root, name] : testing::rows<2>(
+                 "main app/en/text  main app/de/text  third app/en/third  addon app/en/text  "
+                 "addon app/de/text  addon app/de_CH/text  addon app/fr/text  addon app/en/second  "
+                 "addon app/de/only_german  addon extra/en/sub/deep/leaf"))
             write(root, name, root + "/" + name);
         file("bare/file");
     }

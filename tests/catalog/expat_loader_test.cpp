@@ -46,8 +46,9 @@ struct ExpatLoaderTest : ::testing::Test, fl::testing::temp_tree {
 };
 
 TEST_F(ExpatLoaderTest, StopsWhereTheHandlerSays) {
-    for (auto const& [last, seen] : rows<2>("~ <a>x<b></b>y\u00e4</a>  <a> <a>  x <a>x  <b> <a>x<b>  "
-                                            "</a> <a>x<b></b>y\u00e4</a>")) {
+    for (auto const& [last, seen] :
+         fl::testing::rows<2>("~ <a>x<b></b>y\u00e4</a>  <a> <a>  x <a>x  <b> <a>x<b>  "
+                              "</a> <a>x<b></b>y\u00e4</a>")) {
         SCOPED_TRACE(last);
         bool const whole = last.empty();
         EXPECT_EQ(load("<a>x<b/>y&#228;</a>", last), whole);

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+namespace fl::testing {
+
 template <std::size_t Columns>
 std::vector<std::array<std::string, Columns>> rows(char const* text) {
     std::vector<std::array<std::string, Columns>> result;
@@ -21,3 +23,5 @@ std::vector<std::array<std::string, Columns>> rows(char const* text) {
         throw std::invalid_argument(text);
     return result;
 }
+
+} // namespace fl::testing

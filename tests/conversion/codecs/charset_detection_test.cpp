@@ -64,7 +64,7 @@ TEST(CharsetDetection, VariablesChangeTheAnswers) {
         EXPECT_EXIT((setenv(variable, value, 1), std::exit(detect(bytes) != expected)),
                     testing::ExitedWithCode(0), "")
             << variable << value << testing::PrintToString(bytes);
-    for (auto const& [text, expected] : rows<2>("1 1  100 100  55x 55  0 90  101 90  x 90"))
+    for (auto const& [text, expected] : fl::testing::rows<2>("1 1  100 100  55x 55  0 90  101 90  x 90"))
         EXPECT_EQ(expected, std::to_string(detail::threshold_or(text.c_str(), 90))) << text;
 }
 
@@ -82,7 +82,8 @@ TEST(CharsetDetection, DiagnosticsTellTheSteps) {
 
 TEST(CharsetSelection, BelievesWhatConvincesAndElseTheFallback) {
     // The first guess, the second ("-" for none), the two thresholds, the choice.
-    for (auto const& [first, confidence, second, second_confidence, limit, utf8_limit, expected] : rows<7>(R"(
+    for (auto const& [first, confidence, second, second_confidence, limit, utf8_limit, expected] :
+         fl::testing::rows<7>(R"(
         -     0   -     0  90  80  no      A     90   -     0    90  80   A      A      89  -     0   90 80  no
         A     92  B     47 90  80  A       A     92   B     48   90  80   no     A      91  B     46  91 80  A
         A     92  B     2  93  80  no      A     100  B     100  90  80   A      UTF-8  85  A     70  90 80  UTF-8

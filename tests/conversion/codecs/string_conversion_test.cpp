@@ -77,7 +77,7 @@ TEST(StringConversion, ThreadsConvertDuringLocaleChanges) {
 }
 
 TEST(StandardEncodingName, AnyAliasGivesOneName) {
-    for (auto const& [name, standard] : rows<2>(
+    for (auto const& [name, standard] : fl::testing::rows<2>(
              "utf8 UTF-8  latin1 ISO-8859-1  ISO_8859-1:1987 ISO-8859-1  ibm-1047 IBM1047  lmbcs LMBCS-1  "
              "sjis Shift_JIS  no-such-encoding ~  ~ ~"))
         EXPECT_EQ(standard, get_standard_encoding_name(name)) << name;

@@ -58,11 +58,11 @@ TEST_F(DirectoryIteratorTest, ShowsEveryNameOnce) {
 }
 
 TEST_F(DirectoryIteratorTest, WildcardsFollowTheVolume) {
-    for (auto const& [name, wildcard, finding] :
-         rows<3>("a.txt *.TXT 1,3,17,  a.txt a*t 0,1,2,3,16,17,  caf\u00E9 *\u00E9 0,1,2,3,16,17, "
-                 "bad\xFF B*\uFFFD 1,3,17,  caf\u00E9 cafe\u0301* 2,3,16,17, "
-                 "e\u0301t\u00E9 \u00E9t* 2,3,16,17,  e\u0301t\u00E9 \u00C9T*\u0301 3, "
-                 "xslow *x*\uFFFD ~  slow *sl* 0,1,2,3,16,17,")) {
+    for (auto const& [name, wildcard, finding] : fl::testing::rows<3>(
+             "a.txt *.TXT 1,3,17,  a.txt a*t 0,1,2,3,16,17,  caf\u00E9 *\u00E9 0,1,2,3,16,17, "
+             "bad\xFF B*\uFFFD 1,3,17,  caf\u00E9 cafe\u0301* 2,3,16,17, "
+             "e\u0301t\u00E9 \u00E9t* 2,3,16,17,  e\u0301t\u00E9 \u00C9T*\u0301 3, "
+             "xslow *x*\uFFFD ~  slow *sl* 0,1,2,3,16,17,")) {
         auto const file = tree.file(name.ends_with("slow") ? std::string(250, '\r') + name : name);
         for (std::uint32_t const volume : {0u, 1u, 2u, 3u, 16u, 17u}) {
             flags = volume;
@@ -90,7 +90,8 @@ TEST_F(DirectoryIteratorTest, Refusals) {
 
 TEST_F(DirectoryIteratorTest, EntriesTellWhatTheDiskSays) {
     tree.file("regular"), tree.file("directory/child"), ::mkfifo((tree.root() / "fifo").c_str(), 0600);
-    for (auto const& [name, target] : rows<2>("to_file regular  to_directory directory  dangling no"))
+    for (auto const& [name, target] :
+         fl::testing::rows<2>("to_file regular  to_directory directory  dangling no"))
         stdfs::create_symlink(target, tree.root() / name);
     auto const check = [&](upath_directory_entry const& entry) {
         SCOPED_TRACE(ustring_to_utf8(entry.filename()));

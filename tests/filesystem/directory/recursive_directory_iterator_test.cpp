@@ -183,9 +183,9 @@ TEST_F(RecursiveDirectoryIteratorTest, DirectoriesAreNeverOpenedByLinks) {
     tree.file("a/b\xFF/c/file");
     stdfs::create_symlink("a", tree.root() / "link");
     stdfs::create_symlink("b\xFF", tree.root() / "a/link");
-    auto const table =
-        rows<2>("a ~  a/b\xFF ~  a/b\xFF/c ~  a/b\xFF/c/file D  a/b\xFF/c/no E  a/no/c E  link D  "
-                "link/b\xFF D  a/link/c D  a/@ N  @/a N  a/b\xFF/@/c N");
+    auto const table = fl::testing::rows<2>(
+        "a ~  a/b\xFF ~  a/b\xFF/c ~  a/b\xFF/c/file D  a/b\xFF/c/no E  a/no/c E  link D  "
+        "link/b\xFF D  a/link/c D  a/@ N  @/a N  a/b\xFF/@/c N");
     for (auto [path, error] : table) {
         SCOPED_TRACE(path);
         if (auto const place = path.find('@'); place != path.npos)
@@ -205,7 +205,7 @@ TEST_F(RecursiveDirectoryIteratorTest, AsksTheDiskWhereTheDirectoryDoesNotTell) 
     stdfs::create_symlink(tree.root(), tree.root() / "link");
     std::string const table =
         "directory vv  directory/file ss  link ss  gone --  " + std::string(256, 'n') + " sv";
-    for (auto const& [name, expected] : rows<2>(table.c_str())) {
+    for (auto const& [name, expected] : fl::testing::rows<2>(table.c_str())) {
         std::string actual; // for an entry of unknown type, and for a directory
         for (unsigned char const type : {DT_UNKNOWN, DT_DIR})
             actual += "-sv"[static_cast<int>(detail::treatment_of(type, top.get(), name.c_str()))];

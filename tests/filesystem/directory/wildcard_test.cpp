@@ -63,11 +63,11 @@ TEST(WildcardTest, NamesMadeToBeSlow) {
 }
 
 TEST(WildcardTest, ExpressionsToTheLetter) {
-    for (auto const& [filename, expression] : rows<2>(
+    for (auto const& [filename, expression] : fl::testing::rows<2>(
              R"(~ ^.*$  . ^.*$  .. ^.*$  ... ^\.\.\.$  * ^(.|\r)*$  *.txt ^(.|\r)*\.txt$  a* ^a(.|\r)*$
                 a**b ^a(.|\r)*b$  a?b ^a\?b$  ]-#*&~ ^]-#(.|\r)*&~$  $()+.?[\^{|} ^\$\(\)\+\.\?\[\\\^\{\|\}$)"))
         EXPECT_EQ(ustring_to_utf8(generate_pattern_from_filename(utf8_to_ustring(filename))), expression);
     for (auto const& [other] :
-         rows<1>(R"(~ ^ ^a a$ ^a.*$ ^(.|\r)+$ ^(.|\r)*?$ ^a|b$ ^\d$ ^\$ ^$$ ^a{2}$ ^[ab]$)"))
+         fl::testing::rows<1>(R"(~ ^ ^a a$ ^a.*$ ^(.|\r)+$ ^(.|\r)*?$ ^a|b$ ^\d$ ^\$ ^$$ ^a{2}$ ^[ab]$)"))
         EXPECT_FALSE(wildcard::parse(utf8_to_ustring(other))) << other;
 }

@@ -24,7 +24,7 @@ struct InstallPathTest : testing::Test, fl::testing::volume_double {
 };
 
 TEST_F(InstallPathTest, WalksUpToTheDirectoryPair) {
-    for (auto const& [module, root] : rows<2>(
+    for (auto const& [module, root] : fl::testing::rows<2>(
              "/opt/x/bin/" DIR "/lib.so /opt/x  //\xFFx//bin/" DIR "//lib.so /\xFFx  /bin/" DIR "/lib.so /  "
              "/x/bin/" DIR "/y/z/lib.so /x  /x/bin/" DIR "/" DIR "/lib.so /x  /x/" DIR "/lib.so ~  "
              "/" DIR "/lib.so ~  x/bin/other/lib.so ~  ~ ~")) {

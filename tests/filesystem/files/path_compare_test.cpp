@@ -23,7 +23,7 @@ static char outcome(auto const&... arguments) try {
 }
 
 TEST_F(PathCompareTest, FollowsTheMask) {
-    auto const table = rows<3>(
+    auto const table = fl::testing::rows<3>(
         "~ ~ ============  x ~ >>>>>>>>>>>>  ab abc <<<<?<<?<<<!  ab ABC ><><?><?<><!  A a <=<=?<=?=<=!"
         " stra\u00DFe STRASSE >=>=?>=?=>=!  a//b a/b <<<<?<<?<<<!  \uFFFD \U0001F600 >>>>?>>?>>>!"
         " \u00E9 e\u0301 >>==?==?>==!  \u00C9 e\u0301 >><=?<=?><=!  K \u212A <===?==?===!"
@@ -47,7 +47,7 @@ TEST_F(PathCompareTest, FollowsTheMask) {
 
 TEST_F(PathCompareTest, AsksTheVolumeOfTheFirstOfTwoAbsoluteNames) {
     for (auto const& [a, b, expected] :
-         rows<3>("~ ~ =  /a ~ >  ~ /a <  a /a /  /a a /  a ~ /  ~ a /  // / =  /a//b/ /a/b ="))
+         fl::testing::rows<3>("~ ~ =  /a ~ >  ~ /a <  a /a /  /a a /  a ~ /  ~ a /  // / =  /a//b/ /a/b ="))
         EXPECT_EQ(outcome(detail::from_filesystem(a), detail::from_filesystem(b)), expected[0])
             << a << " " << b;
     EXPECT_EQ(std::exchange(asked, "none"), "/a/b");

@@ -23,7 +23,7 @@ struct TemporaryTest : testing::Test {
     TemporaryTest() {
         std::filesystem::create_directory(tree.root() / "a");
         tree.file("file", "precious");
-        for (auto const& [link, target] : rows<2>("link file  dangling missing  loop loop"))
+        for (auto const& [link, target] : fl::testing::rows<2>("link file  dangling missing  loop loop"))
             std::filesystem::create_symlink(target, tree.root() / link);
         EXPECT_EQ(::mkfifo((tree.root() / "pipe").c_str(), 0600), 0);
     }
@@ -41,8 +41,8 @@ struct TemporaryTest : testing::Test {
 
 TEST_F(TemporaryTest, TenThousandNamesAreUnique) {
     std::regex const token("[0-9a-f]{4}(-[0-9a-f]{4}){3}");
-    for (auto const& [dir, suffix, form] :
-         rows<3>("/d .log /d/p*.log  d log d/p*.log  /d//e// ~ /d/e/p*  / .. /p*..  ~ \u00E9 /p*.\u00E9")) {
+    for (auto const& [dir, suffix, form] : fl::testing::rows<3>(
+             "/d .log /d/p*.log  d log d/p*.log  /d//e// ~ /d/e/p*  / .. /p*..  ~ \u00E9 /p*.\u00E9")) {
         auto const made = tmpfile_name(detail::from_filesystem(dir), u"p", detail::from_filesystem(suffix));
         EXPECT_EQ(std::regex_replace(detail::to_filesystem(made), token, "*"), form);
     }
@@ -70,9 +70,9 @@ TEST_F(TemporaryTest, NothingThatExistsIsOpenedOrFollowed) {
 TEST_F(TemporaryTest, TheFirstUsableDirectoryOfTheEnvironmentServes) {
     // Values of four variables, in the tree, "=" for one that is not set; the result likewise, "=" for /tmp.
     char const* const variables[] = {"OWN", "TMPDIR", "TMP", "TEMP"};
-    for (auto const& row :
-         rows<5>("= = = = =  = a a/. = a  = = a a/. a  = = = a// a//  = ~ a = a  = file = = =  "
-                 "= file missing a a  = loop a = a  = \xFF pipe link =  a a/. = = a  file a = = a")) {
+    for (auto const& row : fl::testing::rows<5>(
+             "= = = = =  = a a/. = a  = = a a/. a  = = = a// a//  = ~ a = a  = file = = =  "
+             "= file missing a a  = loop a = a  = \xFF pipe link =  a a/. = = a  file a = = a")) {
         for (std::size_t i = 0; i < 4; ++i) {
             std::string const value = row[i].empty() ? "" : tree.root() / row[i];
             ASSERT_EQ(row[i] == "=" ? ::unsetenv(variables[i]) : ::setenv(variables[i], value.c_str(), 1), 0);

@@ -45,9 +45,9 @@ TEST(Pathname, RandomNamesAgreeWithTheStandardLibrary) {
 }
 
 TEST(Pathname, ConcatenatesWithOneSeparator) {
-    for (auto const& [first, second, expected] :
-         rows<3>("a b a/b  a/ b a/b  a /b a/b  a// //b a/b  ~ b b  ~ /b /b  a ~ a  a/ ~ a/  / b /b  / /b /b "
-                 "a / a  ~ ~ ~")) {
+    for (auto const& [first, second, expected] : fl::testing::rows<3>(
+             "a b a/b  a/ b a/b  a /b a/b  a// //b a/b  ~ b b  ~ /b /b  a ~ a  a/ ~ a/  / b /b  / /b /b "
+             "a / a  ~ ~ ~")) {
         EXPECT_EQ(narrow::concatenate_pathname(first, second), expected) << first << " and " << second;
         EXPECT_EQ(native_path(first) / second, native_path(expected)) << first << " and " << second;
     }

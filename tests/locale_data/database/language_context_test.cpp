@@ -15,7 +15,7 @@ static locale_database_context const& context() {
 // A single row brings its region; a language stands for a region; script and region together end the search;
 // a preferred row wins; two that fit alike are no answer.
 TEST(LanguageContext, NamesResolveToOneRow) {
-    for (auto const& [name, expected] : rows<2>(
+    for (auto const& [name, expected] : fl::testing::rows<2>(
              "ja ja_JP.Shift_JIS  aln aln_XK.  ja_US .  de de_DE.ISO-8859-15  DE de_DE.ISO-8859-15  "
              "fr fr_FR.ISO-8859-15  bal .  en .  zh .  zh_TW zh_TW.Big5  zh_HK zh_HK.Big5-HKSCS  zh_MO "
              "zh_MO.Big5  zh_SG zh_SG.GB2312  zh-hant_tw zh-Hant_TW.Big5  zh-Hans-MO zh-Hans_MO.GB2312  "

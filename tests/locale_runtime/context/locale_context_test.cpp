@@ -41,7 +41,7 @@ TEST(LocaleContext, ReadsTheEnvironmentOnce) {
 
 TEST(LocaleContext, NamesOfCategoriesOptionalDataAndEncodings) {
     int value = 0;
-    for (auto const& [name, category, data] : rows<3>(
+    for (auto const& [name, category, data] : testing::rows<3>(
              "ctype ctype jvmencoding  COLLATE collate TermEncoding  time time terminputencoding  "
              "numeric numeric termoutputencoding  monetary monetary papersize  messages messages unittype")) {
         EXPECT_EQ(QnLocale::getLcCategory(name), value);
@@ -51,7 +51,7 @@ TEST(LocaleContext, NamesOfCategoriesOptionalDataAndEncodings) {
     EXPECT_THROW(QnLocale::getLcCategory("message"), QnLcDataNotFound);
     EXPECT_THROW(QnLocale::getLcCategoryName(static_cast<QnLocale::LcCategory>(6)), QnLcDataNotFound);
     EXPECT_THROW(QnLocaleCtx().classic(), QnLcDataNotFound);
-    for (auto const& [name, standard] : rows<2>("utf8 UTF-8  sjis Shift_JIS  No-Such ~  ~ ~")) {
+    for (auto const& [name, standard] : testing::rows<2>("utf8 UTF-8  sjis Shift_JIS  No-Such ~  ~ ~")) {
         EXPECT_EQ(LcData::getQnStandardEncodingName(name), standard);
         EXPECT_EQ(LcData::getEncodingFromAlias(name), standard.empty() ? name : standard);
         EXPECT_EQ(LcData::checkEncoding(name), !standard.empty()) << name;

@@ -8,7 +8,7 @@ using namespace fl::i18n;
 using categories = std::vector<QnLocale::CategoryContext>;
 
 TEST(LocaleFactory, NamesAreResolved) {
-    for (auto const& [name, ctype, messages, modifier, encoding] : rows<5>(
+    for (auto const& [name, ctype, messages, modifier, encoding] : fl::testing::rows<5>(
              "de_DE de_DE de_DE ~ ISO-8859-1  iw he_IL he_IL ~ UTF-8  en_US_POSIX en_US_POSIX en_US ~ UTF-8  "
              "sr_Latn-BA sr-Latn_BA sr-Latn_BA ~ windows-1250  de_DE.utf-16le de_DE de_DE ~ UTF-16LE  "
              "de_DE.utf8@euro@phonebook de_DE de_DE @euro@phonebook UTF-8  "
