@@ -34,6 +34,7 @@
 #include <fl/i18n/cvt_exception.hpp>
 #include <fl/i18n/date_time.hpp>
 #include <fl/i18n/discovery_record.hpp>
+#include <fl/i18n/encoding_name.hpp>
 #include <fl/i18n/environment.hpp>
 #include <fl/i18n/expat_loader.hpp>
 #include <fl/i18n/export.hpp>

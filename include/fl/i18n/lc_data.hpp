@@ -66,8 +66,7 @@ public:
     /// Lets another name lead to an encoding.
     void addEncodingAlias(std::string_view encoding, std::string_view alias);
 
-    /// The text before the first "." or "@": a locale name without encoding and modifiers. Nothing is
-    /// checked; a text that has neither character is returned whole.
+    /// `lcmgmt::extract_short_name`.
     static std::string extract_short_name(std::string_view name);
 
     /// True if the name or alias of an encoding is known. An empty name isn't.

@@ -9,7 +9,6 @@
 ///
 ///     auto* const context = fl::i18n::lcmgmt::get_qnlocale_context();
 ///     context->getLcCategory("Messages");                       // QnLocale::messages
-///     fl::i18n::lcmgmt::get_encoding_name_from_alias("UTF8");   // "UTF-8"
 ///
 /// The environment variables QNLOCALE_LCDATA_PATH, QNLOCALE_LCDATA_FILENAME, QNLOCALE_L10N_CONTROL and
 /// QNLOCALE_TERMINAL_ENCODING are read when the context is built; later changes of them go unnoticed.
@@ -195,18 +194,6 @@ FL_I18N_EXPORT QnLocaleCtx* get_qnlocale_context();
 
 /// The object of `QnLocale::global()`; it stays valid until the process ends. Thread-safe.
 FL_I18N_EXPORT QnLocale const* get_locale_object();
-
-/// The standard name of an encoding by any of its names in the locale database of the process; ASCII case is
-/// ignored. An unknown name is answered with the name itself, or, in the second form, with an empty text.
-/// Thread-safe.
-/// @{
-FL_I18N_EXPORT std::string get_encoding_name_from_alias(std::string_view name);
-FL_I18N_EXPORT std::string get_qn_standard_encoding_name_from_alias(std::string_view name);
-/// @}
-
-/// True if the locale database knows the name of an encoding, or the name that ICU's converter of that name
-/// (`ucnv_open`, `ucnv_getName`) has. Thread-safe.
-FL_I18N_EXPORT bool is_supported_encoding(std::string const& name);
 
 /// True if input from the terminal has the terminal's encoding, as it has on every system served so far.
 FL_I18N_EXPORT bool is_term_encoding_consistent() noexcept;

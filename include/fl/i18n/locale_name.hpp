@@ -99,6 +99,10 @@ FL_I18N_EXPORT bool is_valid_private_use_list(std::vector<std::string> const& li
 /// well formed; `locale_database::get_locale_name` knows them. Takes time linear in the length of the name.
 FL_I18N_EXPORT locale_name_element decompose_locale_name(std::string_view name);
 
+/// The text before the first "." or "@": a locale name without encoding and modifiers. Nothing is checked; a
+/// text that has neither character is returned whole. A part of `name`, and valid as long as it is.
+FL_I18N_EXPORT std::string_view extract_short_name(std::string_view name) noexcept;
+
 /// Parses the part of a name before encoding and modifiers into an element, and returns whether it is well
 /// formed.
 ///

@@ -1,6 +1,6 @@
 #include "conversion/contract/converter_name.hpp"
 
-#include <fl/i18n/locale_context.hpp>
+#include <fl/i18n/encoding_name.hpp>
 #include <fl/i18n/string_conversion.hpp>
 
 namespace fl::i18n {

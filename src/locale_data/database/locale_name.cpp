@@ -109,6 +109,10 @@ std::string locale_name_element::language_tag() const {
 }
 
 /// name = tag ["." encoding] *("@" modifier)
+std::string_view extract_short_name(std::string_view name) noexcept {
+    return name.substr(0, name.find_first_of(".@"));
+}
+
 locale_name_element decompose_locale_name(std::string_view name) {
     locale_name_element element;
     if (std::string_view const modifiers = cut_behind(name, '@'); modifiers.data() != nullptr)

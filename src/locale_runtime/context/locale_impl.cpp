@@ -1,9 +1,9 @@
 #include "locale_runtime/context/locale_setting.hpp"
 #include "support/raise.hpp"
 
-#include <fl/i18n/lc_data.hpp>
 #include <fl/i18n/locale_context.hpp>
 #include <fl/i18n/locale_impl.hpp>
+#include <fl/i18n/locale_name.hpp>
 
 namespace fl::i18n {
 
@@ -30,7 +30,7 @@ QnLocaleImpl::QnLocaleImpl(std::string const& name)
     : QnLocaleImpl(lcmgmt::get_qnlocale_context()->database_in_force()) {
     if (name.empty())
         support::raise(QnLcInvLcArgument());
-    std::string const short_name = lcmgmt::LcData::extract_short_name(name);
+    std::string const short_name = std::string(lcmgmt::extract_short_name(name));
     std::string const resolved = database().get_locale_name(short_name);
     if (resolved.empty())
         support::raise(QnLcInvLcName(short_name));
@@ -70,7 +70,7 @@ void QnLocaleImpl::setLcName(std::string const& name, std::string const& modifie
 }
 
 void QnLocaleImpl::check_name(std::string const& name) const {
-    std::string const short_name = lcmgmt::LcData::extract_short_name(name);
+    std::string const short_name = std::string(lcmgmt::extract_short_name(name));
     if (database().get_locale_name(short_name).empty())
         support::raise(QnLcInvLcName(short_name));
 }

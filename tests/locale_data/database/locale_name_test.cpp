@@ -1,6 +1,5 @@
 #include "support/rows.hpp"
 
-#include <fl/i18n/lc_data.hpp>
 #include <fl/i18n/locale_name.hpp>
 
 #include <gtest/gtest.h>
@@ -33,7 +32,7 @@ TEST(NamePredicates, AcceptTheirLengthsAndClasses) {
 // Any order; the later region or script wins; an extension is one subtag; "-x-" is looked for before "-X-".
 // "de-X-a-x-b" is cut at "-x-", which leaves "X" as a singleton.
 TEST(LanguageTag, IsReadByItsGrammar) {
-    for (auto const& [tag, rendered] : testing::rows<2>(
+    for (auto const& [tag, rendered] : fl::testing::rows<2>(
              "zh_TW_Hant zh-Hant-TW  en_US_GB en-GB  en-Latn-029-Cyrl en-Cyrl-029  "
              "en-12345_ab345678 en-12345-ab345678  de-1-bc-b-ef de-1-bc-b-ef  de-a-123 de-a-123  "
              "de-x-a-X-b de-x-a-X-b  de-x-a-x-b de-x-a-x-b  de-X-1 de-X-1")) {
@@ -43,9 +42,9 @@ TEST(LanguageTag, IsReadByItsGrammar) {
     }
     locale_name_element element;
     for (auto const& [tag] :
-         testing::rows<1>("~ e engl 1n \xC3\xA4 _US -x-a en- en_a en--US en_US_ zh-cmn-Hans en-a-bbb-ccc "
-                          "en-a-b-ccc en-a--bc en-a-123456789 en-x en-x- en-x-a--b en-x-a_b en_x_foo "
-                          "en-X-toolongsubtag en-123456789 de-X-a-x-b"))
+         fl::testing::rows<1>("~ e engl 1n \xC3\xA4 _US -x-a en- en_a en--US en_US_ zh-cmn-Hans en-a-bbb-ccc "
+                              "en-a-b-ccc en-a--bc en-a-123456789 en-x en-x- en-x-a--b en-x-a_b en_x_foo "
+                              "en-X-toolongsubtag en-123456789 de-X-a-x-b"))
         EXPECT_FALSE(decompose_language_tag(element, tag)) << tag;
 }
 
@@ -59,7 +58,7 @@ TEST(LanguageTag, TakesLinearTime) {
 }
 
 TEST(LocaleName, IsCutAtAtAndDotBeforeTheTag) {
-    for (auto const& [name, short_name, encoding, modifiers] : testing::rows<4>(
+    for (auto const& [name, short_name, encoding, modifiers] : fl::testing::rows<4>(
              "zh_TW.Big5 zh_TW Big5 ~  en_US.UTF-8@euro en_US UTF-8 @euro  "
              "de_DE@euro.UTF-8 de_DE ~ @euro.UTF-8  de_DE.a.b@c de_DE a.b @c  en_US@ en_US ~ @  "
              "en_US.@a@@b en_US ~ @a@@b  ZH_tw ZH_tw ~ ~  en_US_POSIX en_US ~ ~  C ~ ~ ~  ~ ~ ~ ~  "
@@ -69,8 +68,8 @@ TEST(LocaleName, IsCutAtAtAndDotBeforeTheTag) {
         EXPECT_EQ(element.encoding, encoding) << name;
         EXPECT_EQ(element.modifiers(), modifiers) << name;
     }
-    for (auto const& [name] : testing::rows<1>("de_AT.UTF-8@euro de_AT@euro.UTF-8 de_AT de_AT. de_AT@"))
-        EXPECT_EQ(LcData::extract_short_name(name), "de_AT") << name;
+    for (auto const& [name] : fl::testing::rows<1>("de_AT.UTF-8@euro de_AT@euro.UTF-8 de_AT de_AT. de_AT@"))
+        EXPECT_EQ(extract_short_name(name), "de_AT") << name;
 }
 
 // Every optional part is present, so that each rendering shows what it leaves out.

@@ -4,7 +4,6 @@
 #include "support/rows.hpp"
 #include "support/threads.hpp"
 
-#include <fl/i18n/lc_data.hpp>
 #include <fl/i18n/locale_context.hpp>
 #include <fl/i18n/locale_impl.hpp>
 
@@ -39,9 +38,9 @@ TEST(LocaleContext, ReadsTheEnvironmentOnce) {
     EXPECT_EQ(snapshot, (std::map<std::string, std::string>{{"QNLOCALE_L10N_CONTROL", "OFF"}}));
 }
 
-TEST(LocaleContext, NamesOfCategoriesOptionalDataAndEncodings) {
+TEST(LocaleContext, NamesOfCategoriesAndOptionalData) {
     int value = 0;
-    for (auto const& [name, category, data] : testing::rows<3>(
+    for (auto const& [name, category, data] : fl::testing::rows<3>(
              "ctype ctype jvmencoding  COLLATE collate TermEncoding  time time terminputencoding  "
              "numeric numeric termoutputencoding  monetary monetary papersize  messages messages unittype")) {
         EXPECT_EQ(QnLocale::getLcCategory(name), value);
@@ -51,11 +50,6 @@ TEST(LocaleContext, NamesOfCategoriesOptionalDataAndEncodings) {
     EXPECT_THROW(QnLocale::getLcCategory("message"), QnLcDataNotFound);
     EXPECT_THROW(QnLocale::getLcCategoryName(static_cast<QnLocale::LcCategory>(6)), QnLcDataNotFound);
     EXPECT_THROW(QnLocaleCtx().classic(), QnLcDataNotFound);
-    for (auto const& [name, standard] : testing::rows<2>("utf8 UTF-8  sjis Shift_JIS  No-Such ~  ~ ~")) {
-        EXPECT_EQ(LcData::getQnStandardEncodingName(name), standard);
-        EXPECT_EQ(LcData::getEncodingFromAlias(name), standard.empty() ? name : standard);
-        EXPECT_EQ(LcData::checkEncoding(name), !standard.empty()) << name;
-    }
 }
 
 TEST(LocaleContext, PublishedLocaleHasConvertersOfItsOwn) {

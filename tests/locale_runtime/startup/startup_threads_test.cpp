@@ -3,6 +3,7 @@
 #include "support/temp_tree.hpp"
 #include "support/threads.hpp"
 
+#include <fl/i18n/encoding_name.hpp>
 #include <fl/i18n/locale_context.hpp>
 #include <fl/i18n/locale_status.hpp>
 #include <fl/i18n/message_catalog.hpp>

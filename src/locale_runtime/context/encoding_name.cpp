@@ -1,7 +1,8 @@
-// The look-ups of encoding names that go to the database of the process: below the context, locale data has
-// only databases that it is handed.
-#include <fl/i18n/lc_data.hpp>
+#include "locale_runtime/context/locale_setting.hpp"
+
+#include <fl/i18n/encoding_name.hpp>
 #include <fl/i18n/locale_context.hpp>
+#include <fl/i18n/locale_exceptions.hpp>
 
 namespace fl::i18n::lcmgmt {
 
@@ -13,18 +14,6 @@ char const* standard_name(std::string_view name) {
 
 } // namespace
 
-bool LcData::checkEncoding(std::string_view name) {
-    return standard_name(name) != nullptr;
-}
-
-std::string LcData::getEncodingFromAlias(std::string_view name) {
-    return get_encoding_name_from_alias(name);
-}
-
-std::string LcData::getQnStandardEncodingName(std::string_view name) {
-    return get_qn_standard_encoding_name_from_alias(name);
-}
-
 std::string get_encoding_name_from_alias(std::string_view name) {
     char const* const known = standard_name(name);
     return known ? std::string(known) : std::string(name);
@@ -33,6 +22,17 @@ std::string get_encoding_name_from_alias(std::string_view name) {
 std::string get_qn_standard_encoding_name_from_alias(std::string_view name) {
     char const* const known = standard_name(name);
     return known ? known : "";
+}
+
+bool is_supported_encoding(std::string const& name) {
+    if (standard_name(name))
+        return true;
+    try {
+        checked_encoding_name(get_qnlocale_context()->database(), name);
+        return true;
+    } catch (QnLcInvLcName const&) {
+        return false;
+    }
 }
 
 } // namespace fl::i18n::lcmgmt

@@ -1,6 +1,8 @@
 // What an installation says about its locales and encodings, entered where it isn't known yet.
+#include <fl/i18n/encoding_name.hpp>
 #include <fl/i18n/lc_data.hpp>
 #include <fl/i18n/locale_context.hpp>
+#include <fl/i18n/locale_name.hpp>
 
 #include <initializer_list>
 
@@ -102,6 +104,22 @@ void LcData::addEncodingAlias(std::string_view encoding, std::string_view alias)
     if (!entry || entry->standard_name != encoding)
         report(database_->modify_encoding_alias(encoding, alias), "addEncodingAlias::modifyEncodingAlias",
                {encoding, alias});
+}
+
+std::string LcData::extract_short_name(std::string_view name) {
+    return std::string(lcmgmt::extract_short_name(name));
+}
+
+bool LcData::checkEncoding(std::string_view name) {
+    return get_qnlocale_context()->database().get_standard_encoding_name(name) != nullptr;
+}
+
+std::string LcData::getEncodingFromAlias(std::string_view name) {
+    return get_encoding_name_from_alias(name);
+}
+
+std::string LcData::getQnStandardEncodingName(std::string_view name) {
+    return get_qn_standard_encoding_name_from_alias(name);
 }
 
 } // namespace fl::i18n::lcmgmt
