@@ -3,7 +3,7 @@
 
 #include "fuzz.hpp"
 
-#include <fl/i18n/cvt_exception.hpp>
+#include <fl/i18n/cvt_exceptions.hpp>
 #include <fl/i18n/stream_codecvt.hpp>
 
 #include <algorithm>

@@ -11,12 +11,12 @@
 #pragma once
 
 #include <fl/filesystem/boost_path.hpp>
-#include <fl/filesystem/codecvt.hpp>
 #include <fl/filesystem/directory_entry.hpp>
 #include <fl/filesystem/directory_iterator.hpp>
 #include <fl/filesystem/directory_pattern.hpp>
 #include <fl/filesystem/exceptions.hpp>
 #include <fl/filesystem/file.hpp>
+#include <fl/filesystem/file_name_codecvt.hpp>
 #include <fl/filesystem/file_status.hpp>
 #include <fl/filesystem/install_path.hpp>
 #include <fl/filesystem/path.hpp>

@@ -29,9 +29,9 @@
 #include <fl/i18n/conversion_step.hpp>
 #include <fl/i18n/converter.hpp>
 #include <fl/i18n/cstring.hpp>
-#include <fl/i18n/ctype_exception.hpp>
+#include <fl/i18n/ctype_exceptions.hpp>
 #include <fl/i18n/cvt_ctx.hpp>
-#include <fl/i18n/cvt_exception.hpp>
+#include <fl/i18n/cvt_exceptions.hpp>
 #include <fl/i18n/date_time.hpp>
 #include <fl/i18n/discovery_record.hpp>
 #include <fl/i18n/encoding_name.hpp>
@@ -57,9 +57,9 @@
 #include <fl/i18n/locale_tables.hpp>
 #include <fl/i18n/message_catalog.hpp>
 #include <fl/i18n/message_id_completion.hpp>
-#include <fl/i18n/natural_sort_exception.hpp>
+#include <fl/i18n/natural_sort_exceptions.hpp>
 #include <fl/i18n/pattern_match.hpp>
-#include <fl/i18n/regex_exception.hpp>
+#include <fl/i18n/regex_exceptions.hpp>
 #include <fl/i18n/regex_holder.hpp>
 #include <fl/i18n/resource_finder.hpp>
 #include <fl/i18n/scan.hpp>

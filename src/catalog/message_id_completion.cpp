@@ -4,7 +4,7 @@
 #include "support/raise.hpp"
 
 #include <fl/i18n/compare.hpp>
-#include <fl/i18n/ctype_exception.hpp>
+#include <fl/i18n/ctype_exceptions.hpp>
 #include <fl/i18n/idbase.hpp>
 #include <fl/i18n/message_catalog.hpp>
 #include <fl/i18n/message_id_completion.hpp>

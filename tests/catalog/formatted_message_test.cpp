@@ -1,6 +1,6 @@
 #include "support/failure.hpp"
 
-#include <fl/i18n/cvt_exception.hpp>
+#include <fl/i18n/cvt_exceptions.hpp>
 #include <fl/i18n/message_catalog.hpp>
 
 #include <boost/numeric/conversion/cast.hpp>

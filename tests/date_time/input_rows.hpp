@@ -1,7 +1,7 @@
 /// Texts, the formats that read them, and what comes out, for any test to walk.
 #pragma once
 
-#include <fl/i18n/cvt_exception.hpp>
+#include <fl/i18n/cvt_exceptions.hpp>
 #include <fl/i18n/date_time.hpp>
 
 #include <boost/date_time/posix_time/posix_time.hpp>

@@ -1,7 +1,7 @@
 #include "date_time/timezone_access.hpp"
 #include "support/failure.hpp"
 
-#include <fl/i18n/cvt_exception.hpp>
+#include <fl/i18n/cvt_exceptions.hpp>
 
 #include <gtest/gtest.h>
 

@@ -23,6 +23,6 @@ run(${compile} -Wall -Wextra -Wconversion -Werror -pthread
   "${src}/locale_runtime/context/char16_facets.cpp" "${src}/locale_runtime/context/std_locale.cpp"
   "${src}/date_time/date_time_input.cpp" "${src}/date_time/date_time_output.cpp"
   "${src}/conversion/codecs/codecvt_ascii.cpp" "${src}/conversion/contract/converter.cpp"
-  "${src}/conversion/contract/cvt_exception.cpp"
+  "${src}/conversion/contract/cvt_exceptions.cpp"
   -o "${WORK}/libcxx_check")
 run("${WORK}/libcxx_check")

@@ -12,7 +12,7 @@
 /// Immutable: any number of threads may share one.
 #pragma once
 
-#include <fl/i18n/ctype_exception.hpp>
+#include <fl/i18n/ctype_exceptions.hpp>
 #include <fl/i18n/export.hpp>
 
 namespace fl::i18n {

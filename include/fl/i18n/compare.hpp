@@ -21,7 +21,7 @@
 /// any thread.
 #pragma once
 
-#include <fl/i18n/ctype_exception.hpp>
+#include <fl/i18n/ctype_exceptions.hpp>
 #include <fl/i18n/export.hpp>
 
 namespace fl::i18n {

@@ -6,7 +6,7 @@
 #pragma once
 
 #include <fl/i18n/export.hpp>
-#include <fl/i18n/regex_exception.hpp>
+#include <fl/i18n/regex_exceptions.hpp>
 
 #include <memory>
 #include <string_view>

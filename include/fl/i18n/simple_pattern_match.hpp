@@ -16,7 +16,7 @@
 
 #include <fl/i18n/character_handling_mode.hpp>
 #include <fl/i18n/export.hpp>
-#include <fl/i18n/regex_exception.hpp>
+#include <fl/i18n/regex_exceptions.hpp>
 #include <fl/i18n/regex_holder.hpp>
 #include <fl/i18n/ustring.hpp>
 

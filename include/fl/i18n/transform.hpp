@@ -24,7 +24,7 @@
 /// Thread-safe: any of these may be called from any thread. Nothing depends on a current locale.
 #pragma once
 
-#include <fl/i18n/ctype_exception.hpp>
+#include <fl/i18n/ctype_exceptions.hpp>
 #include <fl/i18n/export.hpp>
 #include <fl/i18n/ustring.hpp>
 

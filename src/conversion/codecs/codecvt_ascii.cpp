@@ -2,7 +2,7 @@
 #include "support/raise.hpp"
 
 #include <fl/i18n/codecvt_ascii.hpp>
-#include <fl/i18n/cvt_exception.hpp>
+#include <fl/i18n/cvt_exceptions.hpp>
 
 #include <algorithm>
 

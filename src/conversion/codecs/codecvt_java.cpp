@@ -4,7 +4,7 @@
 #include "support/sized_result.hpp"
 
 #include <fl/i18n/codecvt_java.hpp>
-#include <fl/i18n/cvt_exception.hpp>
+#include <fl/i18n/cvt_exceptions.hpp>
 
 #include <unicode/ustring.h>
 

@@ -1,7 +1,7 @@
 #include "locale_runtime/context/global_locale_slot.hpp"
 #include "support/raise.hpp"
 
-#include <fl/i18n/cvt_exception.hpp>
+#include <fl/i18n/cvt_exceptions.hpp>
 #include <fl/i18n/locale.hpp>
 #include <fl/i18n/string_conversion.hpp>
 

@@ -8,7 +8,7 @@
 #include "conversion/codecs/conversion_status.hpp"
 #include "support/raise.hpp"
 
-#include <fl/i18n/cvt_exception.hpp>
+#include <fl/i18n/cvt_exceptions.hpp>
 #include <fl/i18n/ustring.hpp>
 
 #include <unicode/utypes.h>

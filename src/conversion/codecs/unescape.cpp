@@ -1,7 +1,7 @@
 #include "support/icu_length.hpp"
 #include "support/raise.hpp"
 
-#include <fl/i18n/cvt_exception.hpp>
+#include <fl/i18n/cvt_exceptions.hpp>
 #include <fl/i18n/string_conversion.hpp>
 
 #include <unicode/ustring.h>

@@ -5,7 +5,7 @@
 #include "support/sized_result.hpp"
 
 #include <fl/i18n/codecvt.hpp>
-#include <fl/i18n/cvt_exception.hpp>
+#include <fl/i18n/cvt_exceptions.hpp>
 #include <fl/i18n/string_conversion.hpp>
 
 #include <unicode/ustring.h>

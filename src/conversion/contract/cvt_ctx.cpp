@@ -3,7 +3,7 @@
 #include "support/raise.hpp"
 
 #include <fl/i18n/cvt_ctx.hpp>
-#include <fl/i18n/cvt_exception.hpp>
+#include <fl/i18n/cvt_exceptions.hpp>
 
 #include <unicode/ucnv.h>
 

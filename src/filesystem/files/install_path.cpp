@@ -3,8 +3,8 @@
 #include "support/ascii.hpp"
 #include "support/once_value.hpp"
 
-#include <fl/filesystem/codecvt.hpp>
 #include <fl/filesystem/exceptions.hpp>
+#include <fl/filesystem/file_name_codecvt.hpp>
 #include <fl/filesystem/file_status.hpp>
 #include <fl/filesystem/install_path.hpp>
 #include <fl/filesystem/path.hpp>

@@ -4,7 +4,7 @@
 #include "filesystem/primitives/pathname_text.hpp"
 #include "text/characters/normalization.hpp"
 
-#include <fl/i18n/ctype_exception.hpp>
+#include <fl/i18n/ctype_exceptions.hpp>
 
 #include <unicode/utf16.h>
 #include <unicode/utf8.h>

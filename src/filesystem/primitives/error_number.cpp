@@ -5,7 +5,7 @@
 
 #include <fl/filesystem/exceptions.hpp>
 #include <fl/filesystem/path.hpp>
-#include <fl/i18n/cvt_exception.hpp>
+#include <fl/i18n/cvt_exceptions.hpp>
 
 #include <cerrno>
 #include <new>

@@ -4,7 +4,7 @@
 #include "support/icu_length.hpp"
 #include "support/raise.hpp"
 
-#include <fl/i18n/ctype_exception.hpp>
+#include <fl/i18n/ctype_exceptions.hpp>
 
 #include <unicode/utypes.h>
 

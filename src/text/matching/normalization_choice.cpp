@@ -2,7 +2,7 @@
 
 #include "text/characters/normalization.hpp"
 
-#include <fl/i18n/ctype_exception.hpp>
+#include <fl/i18n/ctype_exceptions.hpp>
 
 #include <boost/numeric/conversion/cast.hpp>
 

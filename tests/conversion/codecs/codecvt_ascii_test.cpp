@@ -1,5 +1,5 @@
 #include <fl/i18n/codecvt_ascii.hpp>
-#include <fl/i18n/cvt_exception.hpp>
+#include <fl/i18n/cvt_exceptions.hpp>
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include <fl/i18n/code_points.hpp>
 #include <fl/i18n/codecvt.hpp>
-#include <fl/i18n/cvt_exception.hpp>
+#include <fl/i18n/cvt_exceptions.hpp>
 
 #include <gtest/gtest.h>
 #include <unicode/ucnv.h>

@@ -1,7 +1,7 @@
 #include "support/failure.hpp"
 
 #include <fl/i18n/codecvt.hpp>
-#include <fl/i18n/cvt_exception.hpp>
+#include <fl/i18n/cvt_exceptions.hpp>
 #include <fl/i18n/stream_codecvt.hpp>
 
 #include <gtest/gtest.h>

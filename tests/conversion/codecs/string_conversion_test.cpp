@@ -3,7 +3,7 @@
 #include "support/threads.hpp"
 
 #include <fl/i18n/codecvt.hpp>
-#include <fl/i18n/cvt_exception.hpp>
+#include <fl/i18n/cvt_exceptions.hpp>
 #include <fl/i18n/locale_context.hpp>
 #include <fl/i18n/locale_impl.hpp>
 #include <fl/i18n/string_conversion.hpp>

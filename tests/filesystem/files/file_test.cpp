@@ -2,9 +2,9 @@
 #include "support/temp_tree.hpp"
 
 #include <fl/filesystem/boost_path.hpp>
-#include <fl/filesystem/codecvt.hpp>
 #include <fl/filesystem/exceptions.hpp>
 #include <fl/filesystem/file.hpp>
+#include <fl/filesystem/file_name_codecvt.hpp>
 #include <fl/filesystem/file_status.hpp>
 #include <fl/i18n/codecvt.hpp>
 

@@ -1,6 +1,6 @@
 #include <fl/i18n/character_handling_mode.hpp>
-#include <fl/i18n/natural_sort_exception.hpp>
-#include <fl/i18n/regex_exception.hpp>
+#include <fl/i18n/natural_sort_exceptions.hpp>
+#include <fl/i18n/regex_exceptions.hpp>
 
 #include <gtest/gtest.h>
 

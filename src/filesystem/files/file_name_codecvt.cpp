@@ -1,6 +1,6 @@
 #include "filesystem/primitives/name_conversion.hpp"
 
-#include <fl/filesystem/codecvt.hpp>
+#include <fl/filesystem/file_name_codecvt.hpp>
 #include <fl/i18n/cvt_ctx.hpp>
 
 #include <unicode/ucnv.h>

@@ -1,4 +1,4 @@
-#include <fl/i18n/regex_exception.hpp>
+#include <fl/i18n/regex_exceptions.hpp>
 
 #include <utility>
 

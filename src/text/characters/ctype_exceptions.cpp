@@ -1,4 +1,4 @@
-#include <fl/i18n/ctype_exception.hpp>
+#include <fl/i18n/ctype_exceptions.hpp>
 
 #include <utility>
 

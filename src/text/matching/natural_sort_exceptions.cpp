@@ -1,4 +1,4 @@
-#include <fl/i18n/natural_sort_exception.hpp>
+#include <fl/i18n/natural_sort_exceptions.hpp>
 
 namespace fl::i18n {
 

@@ -1,7 +1,7 @@
 #include "filesystem/primitives/utf8_name.hpp"
 
-#include <fl/filesystem/codecvt.hpp>
 #include <fl/filesystem/exceptions.hpp>
+#include <fl/filesystem/file_name_codecvt.hpp>
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include <fl/i18n/cvt_exception.hpp>
+#include <fl/i18n/cvt_exceptions.hpp>
 
 #include <utility>
 
