@@ -3,6 +3,9 @@
 add_library(fl_i18n_settings INTERFACE)
 target_compile_features(fl_i18n_settings INTERFACE cxx_std_20)
 target_compile_options(fl_i18n_settings INTERFACE -Wall -Wextra -Wconversion $<$<BOOL:${FL_I18N_WERROR}>:-Werror>)
+if(CMAKE_CXX_COMPILER_ID MATCHES "Clang") # the annotations of support/mutex.hpp
+  target_compile_options(fl_i18n_settings INTERFACE -Wthread-safety)
+endif()
 target_compile_definitions(fl_i18n_settings INTERFACE
   U_NO_DEFAULT_INCLUDE_UTF_HEADERS=1 # ICU's headers then pull in only what they need
   UNISTR_FROM_CHAR_EXPLICIT=explicit UNISTR_FROM_STRING_EXPLICIT=explicit)

@@ -59,6 +59,12 @@ install_dependencies() {
     fi
 }
 
+# Installs clang, for the presets that build with it.
+install_clang() {
+    [ "$(uname -s)" = Darwin ] || ! command -v apt-get >/dev/null || install_debian clang libclang-rt-14-dev
+    command -v clang++ >/dev/null || fail "clang++ is needed (Debian: clang)"
+}
+
 # Runs a command and shows its output only if it fails.
 quietly() {
     local log
