@@ -1,4 +1,4 @@
-#include "date_time/timezone_access.hpp"
+#include "date_time/time_zone_access.hpp"
 #include "date_time/widen.hpp"
 #include "support/icu_length.hpp"
 #include "support/raise.hpp"

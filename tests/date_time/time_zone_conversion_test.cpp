@@ -1,4 +1,4 @@
-#include "date_time/timezone_access.hpp"
+#include "date_time/time_zone_access.hpp"
 #include "support/failure.hpp"
 
 #include <boost/date_time/posix_time/posix_time.hpp>

@@ -1,4 +1,4 @@
-#include "date_time/timezone_access.hpp"
+#include "date_time/time_zone_access.hpp"
 #include "support/failure.hpp"
 
 #include <fl/i18n/cvt_exceptions.hpp>
