@@ -1,6 +1,6 @@
-#include "locale_data/database/database_init.hpp"
+#include "locale_data/database/locale_database_init.hpp"
 
-#include "locale_data/database/lookup_key.hpp"
+#include "locale_data/database/locale_database_keys.hpp"
 #include "locale_data/database/value_names.hpp"
 #include "support/ascii.hpp"
 

@@ -1,6 +1,6 @@
 // Entries of encodings, and the keys that lead to them.
-#include "locale_data/database/database_changes.hpp"
-#include "locale_data/database/lookup_key.hpp"
+#include "locale_data/database/locale_database_context.hpp"
+#include "locale_data/database/locale_database_keys.hpp"
 
 #include <fl/i18n/locale_database.hpp>
 
