@@ -1,7 +1,8 @@
+// Times read from text, and what Boost's reader has to be kept from.
+#include "conversion/codecs/ascii_text.hpp"
 #include "date_time/kept_locale.hpp"
 #include "support/ascii.hpp"
 
-#include <fl/i18n/codecvt_ascii.hpp>
 #include <fl/i18n/date_time.hpp>
 
 #include <boost/algorithm/string/predicate.hpp>
@@ -19,10 +20,6 @@ using input_facet = boost::date_time::time_input_facet<ptime, char>;
 constexpr std::size_t utc_stamp_separator = 10; ///< where the "T" stands
 
 constexpr ptime no_time(boost::posix_time::not_a_date_time);
-
-std::string narrow(ustring const& text) {
-    return codecvt_ustring_to_ascii(false).convert(text.data(), text.size());
-}
 
 std::locale const& iso_locale() {
     thread_local std::locale const locale = make_locale<input_facet>(input_facet::iso_time_format_specifier);
@@ -55,7 +52,7 @@ private:
 ptime read_utc_stamp(ustring const& text) {
     if (text.size() >= utc_stamp_separator + 2 && text[utc_stamp_separator] != u'T')
         return no_time;
-    reader from(narrow(text), utc_stamp_locale<input_facet>());
+    reader from(detail::to_ascii(text), utc_stamp_locale<input_facet>());
     ptime const time = from.read();
     return from.at_end() ? time : no_time;
 }
@@ -99,7 +96,7 @@ std::string without_stray_sign(std::string text) {
 ptime to_ptime(ustring const& text, std::string const& format) {
     if (text.empty() || format.empty())
         return no_time;
-    return reader(without_stray_sign(narrow(text)), locale_for<input_facet>(format, format)).read();
+    return reader(without_stray_sign(detail::to_ascii(text)), locale_for<input_facet>(format, format)).read();
 }
 
 ptime to_ptime(ustring const& text, DateFormat format) {
@@ -107,11 +104,11 @@ ptime to_ptime(ustring const& text, DateFormat format) {
         return no_time;
     switch (format) {
     case DATE_FORMAT_SIMPLE:
-        return boost::posix_time::time_from_string(without_characters_below_zero(narrow(text)));
+        return boost::posix_time::time_from_string(without_characters_below_zero(detail::to_ascii(text)));
     case DATE_FORMAT_ISO:
-        return reader(narrow(text), iso_locale()).read();
+        return reader(detail::to_ascii(text), iso_locale()).read();
     case DATE_FORMAT_ISO_EXTENDED:
-        return reader(narrow(text), iso_extended_locale()).read();
+        return reader(detail::to_ascii(text), iso_extended_locale()).read();
     case DATE_FORMAT_UTC_STAMP:
         return read_utc_stamp(text);
     }

@@ -1,5 +1,5 @@
+#include "conversion/codecs/ascii_text.hpp"
 #include "date_time/time_zone_access.hpp"
-#include "date_time/widen.hpp"
 #include "support/icu_length.hpp"
 #include "support/raise.hpp"
 
@@ -58,6 +58,27 @@ icu_zone default_zone() {
 
 } // namespace
 
+timezone_exception_base::timezone_exception_base(std::string error_id, int code, std::string message)
+    : id_(std::move(error_id)),
+      code_(code),
+      message_(std::move(message)) {}
+
+char const* timezone_exception_base::what() const noexcept {
+    return id_.c_str();
+}
+
+void timezone_exception_base::anchor() const {}
+
+invalid_time_data::invalid_time_data()
+    : timezone_exception_base("fl::i18n::timezone::invalid_time_data", 1, "Invalid time data.") {}
+
+void invalid_time_data::anchor() const {}
+
+invalid_timezone_id::invalid_timezone_id()
+    : timezone_exception_base("fl::i18n::timezone::invalid_timezone_id", 2, "Invalid timezone id.") {}
+
+void invalid_timezone_id::anchor() const {}
+
 timezone timezone_access::make(icu::TimeZone const* zone) {
     return timezone(owned(zone), "", false);
 }
@@ -70,7 +91,7 @@ timezone::timezone(boost::any zone, std::string name, bool ignore_dst)
 timezone::timezone(ustring const& id)
     : timezone(id.empty() ? default_zone() : known(zone_of_id(id)), "", false) {}
 
-timezone::timezone(std::string const& id) : timezone(detail::widen(id)) {}
+timezone::timezone(std::string const& id) : timezone(detail::from_ascii(id)) {}
 
 timezone::timezone(timezone const& other)
     : timezone(copied(timezone_access::icu(other)), other.name_, other.ignore_dst_) {}

@@ -1,4 +1,5 @@
-/// What a `timezone` holds, for the code that works with it.
+/// What a `timezone` holds, for the code that works with it. Public headers name no class of ICU, so the zone
+/// is in a `boost::any` there, and the type inside is agreed here.
 #pragma once
 
 #include <fl/i18n/time_zone.hpp>

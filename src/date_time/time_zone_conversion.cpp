@@ -1,3 +1,4 @@
+// From the clocks of a zone to UTC and back: the arithmetic between Boost's times and ICU's dates.
 #include "date_time/time_zone_access.hpp"
 #include "support/raise.hpp"
 #include "support/unix_epoch.hpp"

@@ -4,7 +4,7 @@
 /// which callers here go on counting; so sums and products wrap around instead of overflowing.
 #pragma once
 
-#include <boost/date_time/posix_time/posix_time_types.hpp>
+#include <boost/date_time/posix_time/ptime.hpp>
 
 #include <cstdint>
 

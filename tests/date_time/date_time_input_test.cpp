@@ -4,5 +4,6 @@
 
 TEST(DateTimeInput, Rows) {
     for (fl::testing::input_row const& row : fl::testing::input_rows)
-        EXPECT_EQ(row.expected, fl::testing::outcome(row)) << row.format << testing::PrintToString(row.text);
+        EXPECT_EQ(row.expected, fl::testing::outcome(row))
+            << row.format << ' ' << testing::PrintToString(row.text);
 }

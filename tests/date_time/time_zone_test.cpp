@@ -9,7 +9,7 @@ using namespace fl::i18n;
 using time_zone::timezone_access;
 using zone = time_zone::timezone;
 
-TEST(Timezone, Ids) {
+TEST(TimeZone, Ids) {
     EXPECT_EQ(u"America/New_York", zone("America/New_York").get_id());
     EXPECT_EQ(u"GMT-03:30", zone("GMT-3:30").get_id());
     EXPECT_TRUE(zone("Asia/Calcutta") != zone("Asia/Kolkata")) << "the same rules under another id";
@@ -23,7 +23,7 @@ TEST(Timezone, Ids) {
     EXPECT_THROW(zone("Z\xFCrich"), CvtInvalidCharacter);
 }
 
-TEST(Timezone, DefaultZoneIsTheSystems) {
+TEST(TimeZone, DefaultZoneIsTheSystems) {
     setenv("TZ", "Asia/Tokyo", 1);
     EXPECT_EQ(u"Asia/Tokyo", zone("").get_id());
     EXPECT_TRUE(zone(fl::ustring()) == zone::create_default());
@@ -31,7 +31,7 @@ TEST(Timezone, DefaultZoneIsTheSystems) {
     EXPECT_THROW(zone(""), time_zone::invalid_timezone_id);
 }
 
-TEST(Timezone, CopiesAreEqualAndTheirOwn) {
+TEST(TimeZone, CopiesAreEqualAndTheirOwn) {
     zone assigned("Etc/UTC");
     // ICU knows the second but as the default, and the third as another zone.
     for (char const* const tz : {"Europe/Vienna", "QQQ-5", "GMT+5"}) {

@@ -24,7 +24,7 @@
 #include <fl/i18n/export.hpp>
 #include <fl/i18n/ustring.hpp>
 
-#include <boost/date_time/posix_time/posix_time_types.hpp>
+#include <boost/date_time/posix_time/ptime.hpp>
 
 #include <cstdint>
 #include <ctime>
@@ -38,15 +38,11 @@ using boost::posix_time::ptime;
 /// Root of this family.
 class FL_I18N_EXPORT date_time_exception_base : public std::exception {
 public:
-    date_time_exception_base(date_time_exception_base const&) = default;
-    date_time_exception_base& operator=(date_time_exception_base const&) = default;
-    ~date_time_exception_base() override;
-
     /// The error id, the same text as `error_id()`. Valid as long as the exception.
     char const* what() const noexcept override;
 
     /// "fl:i18n:date_time:" and the name of the class.
-    std::string const& error_id() const noexcept { return error_id_; }
+    std::string const& error_id() const noexcept { return id_; }
     /// The number of the class within the family.
     int code() const noexcept { return code_; }
 
@@ -54,7 +50,9 @@ protected:
     date_time_exception_base(std::string error_id, int code);
 
 private:
-    std::string error_id_;
+    virtual void anchor() const; // keeps the virtual table and the type information in one object file
+
+    std::string id_;
     int code_;
 };
 
@@ -62,9 +60,9 @@ private:
 class FL_I18N_EXPORT invalid_data_error : public date_time_exception_base {
 public:
     invalid_data_error();
-    invalid_data_error(invalid_data_error const&) = default;
-    invalid_data_error& operator=(invalid_data_error const&) = default;
-    ~invalid_data_error() override;
+
+private:
+    void anchor() const override;
 };
 
 /// The named formats. A fraction is written, with six digits, if the time has one.
@@ -77,11 +75,11 @@ enum DateFormat : std::uint32_t {
 
 /// The time in that format. The special values are written as "not-a-date-time", "+infinity" and "-infinity".
 /// A value that is no format gives empty text.
-FL_I18N_EXPORT ustring to_ustring(ptime const& time, DateFormat format);
+[[nodiscard]] FL_I18N_EXPORT ustring to_ustring(ptime const& time, DateFormat format);
 
 /// The time by a format string, of which a zero byte is the end. Empty if the format is. Special values as
 /// above.
-FL_I18N_EXPORT ustring to_ustring(ptime const& time, std::string const& format);
+[[nodiscard]] FL_I18N_EXPORT ustring to_ustring(ptime const& time, std::string const& format);
 
 /// The time that the text tells, or `not_a_date_time`, also for empty text and for a value that is no format.
 ///
@@ -96,16 +94,16 @@ FL_I18N_EXPORT ustring to_ustring(ptime const& time, std::string const& format);
 ///
 /// A fraction that does not begin with a dot is not read. Blanks before the time are skipped, but for
 /// `DATE_FORMAT_SIMPLE`, and for `DATE_FORMAT_UTC_STAMP` where they move the "T".
-FL_I18N_EXPORT ptime to_ptime(ustring const& text, DateFormat format);
+[[nodiscard]] FL_I18N_EXPORT ptime to_ptime(ustring const& text, DateFormat format);
 
 /// The time that the text tells by a format string. `not_a_date_time` if it can't be read, and for empty text
 /// or an empty format. Parts that the format doesn't name are 1400-01-01 and midnight; a unit of the format
 /// that is no "%" takes any unit of the text, and text behind what the format has consumed is accepted.
-FL_I18N_EXPORT ptime to_ptime(ustring const& text, std::string const& format);
+[[nodiscard]] FL_I18N_EXPORT ptime to_ptime(ustring const& text, std::string const& format);
 
 /// Seconds since 1970-01-01 00:00:00, counted as if the time were UTC, and cut off towards zero: half a
 /// second before that moment is 0. The infinities give 9223372036854 and its negative. Throws
 /// `invalid_data_error` for `not_a_date_time`.
-FL_I18N_EXPORT std::time_t ptime_to_time_t(ptime const& time);
+[[nodiscard]] FL_I18N_EXPORT std::time_t ptime_to_time_t(ptime const& time);
 
 } // namespace fl::i18n::date_time

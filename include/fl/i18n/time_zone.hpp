@@ -20,7 +20,7 @@
 #include <fl/i18n/ustring.hpp>
 
 #include <boost/any.hpp>
-#include <boost/date_time/posix_time/posix_time_types.hpp>
+#include <boost/date_time/posix_time/ptime.hpp>
 
 #include <exception>
 #include <string>
@@ -32,15 +32,11 @@ using boost::posix_time::ptime;
 /// Root of this family.
 class FL_I18N_EXPORT timezone_exception_base : public std::exception {
 public:
-    timezone_exception_base(timezone_exception_base const&) = default;
-    timezone_exception_base& operator=(timezone_exception_base const&) = default;
-    ~timezone_exception_base() override;
-
     /// The error id, the same text as `error_id()`, not the message. Valid as long as the exception.
     char const* what() const noexcept override;
 
     /// "fl::i18n::timezone::" and the name of the class.
-    std::string const& error_id() const noexcept { return error_id_; }
+    std::string const& error_id() const noexcept { return id_; }
     /// The number of the class within the family.
     int code() const noexcept { return code_; }
     /// An English sentence.
@@ -50,7 +46,9 @@ protected:
     timezone_exception_base(std::string error_id, int code, std::string message);
 
 private:
-    std::string error_id_;
+    virtual void anchor() const; // keeps the virtual table and the type information in one object file
+
+    std::string id_;
     int code_;
     std::string message_;
 };
@@ -59,18 +57,18 @@ private:
 class FL_I18N_EXPORT invalid_time_data : public timezone_exception_base {
 public:
     invalid_time_data();
-    invalid_time_data(invalid_time_data const&) = default;
-    invalid_time_data& operator=(invalid_time_data const&) = default;
-    ~invalid_time_data() override;
+
+private:
+    void anchor() const override;
 };
 
 /// No zone has that id. Code 2, "Invalid timezone id."
 class FL_I18N_EXPORT invalid_timezone_id : public timezone_exception_base {
 public:
     invalid_timezone_id();
-    invalid_timezone_id(invalid_timezone_id const&) = default;
-    invalid_timezone_id& operator=(invalid_timezone_id const&) = default;
-    ~invalid_timezone_id() override;
+
+private:
+    void anchor() const override;
 };
 
 /// A time zone. Many threads may use one object at once; while one of them assigns to it, no other may.
@@ -94,17 +92,17 @@ public:
 
     /// ICU's default zone: that of the system, unless the process has set another. Throws
     /// `invalid_timezone_id` if ICU has none.
-    static timezone create_default();
+    [[nodiscard]] static timezone create_default();
 
     /// The id by which ICU knows the zone, not necessarily the text that it was made from ("GMT-3:30" gives
     /// "GMT-03:30"), up to a zero unit.
-    ustring get_id() const;
+    [[nodiscard]] ustring get_id() const;
 
     /// True if the zones are equal for ICU and have the same id: two ids with the same rules make different
     /// zones.
     /// @{
-    bool operator==(timezone const& other) const;
-    bool operator!=(timezone const& other) const;
+    [[nodiscard]] bool operator==(timezone const& other) const;
+    [[nodiscard]] bool operator!=(timezone const& other) const;
     /// @}
 
 private:
@@ -128,10 +126,10 @@ private:
 /// such a time is taken by the offset before it, so that it doesn't come back from `from_utc`. Clocks put
 /// back show the times of the overlap twice: such a time is taken by the offset after it, the second
 /// occurrence.
-FL_I18N_EXPORT ptime to_utc(ptime const& local, timezone const& zone);
+[[nodiscard]] FL_I18N_EXPORT ptime to_utc(ptime const& local, timezone const& zone);
 
 /// What the clocks of the zone show at the time `utc`.
-FL_I18N_EXPORT ptime from_utc(ptime const& utc, timezone const& zone);
+[[nodiscard]] FL_I18N_EXPORT ptime from_utc(ptime const& utc, timezone const& zone);
 /// @}
 
 } // namespace fl::i18n::time_zone
