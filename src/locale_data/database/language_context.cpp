@@ -1,5 +1,5 @@
-#include "locale_data/database/locale_database_keys.hpp"
-#include "locale_data/database/value_names.hpp"
+#include "locale_data/database/locale_database_context.hpp"
+#include "locale_data/database/name_tables.hpp"
 #include "support/ascii.hpp"
 
 #include <fl/i18n/language_context.hpp>
@@ -85,7 +85,7 @@ language_context const* search(rows const& candidates, query const& wanted) {
         last = &row;
         ++count;
     }
-    if (preferred != nullptr)
+    if (preferred)
         return preferred;
     return count == 1 ? last : nullptr;
 }
@@ -97,7 +97,7 @@ struct found_row {
 
 found_row find_row(locale_database_context const& context, query const& wanted) {
     rows const* const candidates = find_value(context.language_map, wanted.language);
-    if (candidates == nullptr)
+    if (!candidates)
         return {nullptr, false};
     if (wanted.language_only)
         if (language_context const* const row = single_row(*candidates))
@@ -111,7 +111,7 @@ unsigned short code_index(name_map<unsigned short> const& map, std::string_view 
     if (place == npos)
         return no_name;
     unsigned short const* const index = find_value(map, encoding_key(list.substr(place, length)));
-    return index == nullptr ? no_name : *index;
+    return index ? *index : no_name;
 }
 
 unsigned short narrowed_script(locale_database_context const& context, language_context const& row,
@@ -135,14 +135,14 @@ constinit language_context const language_context::empty_context{no_name, no_nam
 language_context const& get_raw_language_context(locale_database_context const& context,
                                                  locale_name_element const& element) {
     language_context const* const row = find_row(context, make_query(element)).row;
-    return row == nullptr ? language_context::empty_context : *row;
+    return row ? *row : language_context::empty_context;
 }
 
 language_context get_language_context(locale_database_context const& context,
                                       locale_name_element const& element) {
     query const wanted = make_query(element);
     auto const [row, by_language_alone] = find_row(context, wanted);
-    if (row == nullptr)
+    if (!row)
         return language_context::empty_context;
     language_context result = *row;
     result.script = narrowed_script(context, *row, wanted);

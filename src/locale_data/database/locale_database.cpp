@@ -1,10 +1,10 @@
-#include "locale_data/database/locale_database_init.hpp"
-#include "locale_data/database/locale_database_keys.hpp"
-#include "locale_data/database/value_names.hpp"
+#include "locale_data/database/locale_database_context.hpp"
+#include "locale_data/database/name_tables.hpp"
 
 #include <fl/i18n/locale_database.hpp>
 #include <fl/i18n/locale_tables.hpp>
 
+#include <algorithm>
 #include <exception>
 
 namespace fl::i18n::lcmgmt {
@@ -16,16 +16,30 @@ constexpr char const* fallback_encoding = "UTF-8";
 /// The text of a key, or null.
 char const* find_text(name_map<char const*> const& map, std::string_view key) {
     char const* const* const text = find_value(map, key);
-    return text == nullptr ? nullptr : *text;
+    return text ? *text : nullptr;
 }
 
 /// The entry itself, for callers who needn't share it; null for an unknown name.
 encoding_entry_context const* find_encoding(locale_database_context const& context, std::string_view name) {
     auto const* const entry = find_value(context.encoding_entry_map, encoding_key(name));
-    return entry == nullptr ? nullptr : entry->get();
+    return entry ? entry->get() : nullptr;
 }
 
 } // namespace
+
+std::string make_optional_data_key(std::string_view locale, std::string_view type) {
+    std::string key(locale);
+    key += ':';
+    return key.append(type);
+}
+
+char const* locale_database_context::store_character_data(std::string_view text) {
+    if (auto const place = character_data_map.find(text); place != character_data_map.end())
+        return place->second.get();
+    auto copy = std::make_unique<char[]>(text.size() + 1); // zeroed, so it ends in a NUL
+    std::ranges::copy(text, copy.get());
+    return character_data_map.emplace(text, std::move(copy)).first->second.get();
+}
 
 locale_database::locale_database() {
     try {
@@ -61,7 +75,7 @@ char const* locale_database::fetch_locale_xpg_name_map(std::string_view name) co
 std::shared_ptr<encoding_entry_context>
 locale_database::fetch_encoding_entry_map(std::string_view name) const {
     auto const* const entry = find_value(context_.encoding_entry_map, encoding_key(name));
-    return entry == nullptr ? nullptr : *entry;
+    return entry ? *entry : nullptr;
 }
 
 char const* locale_database::fetch_encoding_compat_map(std::string_view name) const {
@@ -82,7 +96,7 @@ std::string locale_database::get_locale_name(std::string_view name) const {
 
 std::string locale_database::get_region_locale_name(std::string_view name) const {
     char const* const locale = fetch_region_locale_map(name);
-    return locale == nullptr ? std::string() : std::string(locale);
+    return locale ? std::string(locale) : std::string();
 }
 
 char const* locale_database::get_default_encoding_name(std::string_view name) const {
@@ -116,14 +130,14 @@ std::shared_ptr<encoding_entry_context> locale_database::get_encoding_context(st
 
 char const* locale_database::get_standard_encoding_name(std::string_view name) const {
     encoding_entry_context const* const entry = find_encoding(context_, name);
-    return entry == nullptr ? nullptr : entry->standard_name;
+    return entry ? entry->standard_name : nullptr;
 }
 
 char const* locale_database::get_jvm_encoding_name(std::string_view name) const {
     encoding_entry_context const* const entry = find_encoding(context_, name);
-    if (entry == nullptr)
+    if (!entry)
         return nullptr;
-    return entry->jvm_name != nullptr ? entry->jvm_name : entry->standard_name;
+    return entry->jvm_name ? entry->jvm_name : entry->standard_name;
 }
 
 locale_optional_data const& locale_database::get_optional_data_context(std::string_view locale,
@@ -131,7 +145,7 @@ locale_optional_data const& locale_database::get_optional_data_context(std::stri
     if (locale.empty() || type.empty())
         return no_optional_data_;
     auto const* const data = find_value(context_.optional_data_map, make_optional_data_key(locale, type));
-    return data == nullptr ? no_optional_data_ : *data;
+    return data ? *data : no_optional_data_;
 }
 
 } // namespace fl::i18n::lcmgmt

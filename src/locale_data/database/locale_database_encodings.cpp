@@ -1,6 +1,5 @@
 // Entries of encodings, and the keys that lead to them.
 #include "locale_data/database/locale_database_context.hpp"
-#include "locale_data/database/locale_database_keys.hpp"
 
 #include <fl/i18n/locale_database.hpp>
 
@@ -28,7 +27,7 @@ void set_jvm_name(locale_database_context& context, encoding_entry const& entry,
 char const* compatible_name(locale_database_context& context, std::string_view name) {
     std::string key = key_of(name);
     encoding_entry const* const present = find_value(context.encoding_entry_map, key);
-    if (present != nullptr && (*present)->standard_name == name)
+    if (present && (*present)->standard_name == name)
         return (*present)->standard_name;
     encoding_entry const created = make_encoding(context, name);
     context.encoding_entry_map.insert_or_assign(std::move(key), created);
@@ -68,7 +67,7 @@ int locale_database::modify_jvm_encoding(std::string_view encoding, std::string_
     if (encoding.empty() || jvm_name.empty())
         return change_status::empty_argument;
     encoding_entry const& entry = find_or_create_encoding(context_, encoding);
-    if (entry->jvm_name == nullptr || entry->jvm_name != jvm_name)
+    if (!entry->jvm_name || entry->jvm_name != jvm_name)
         set_jvm_name(context_, entry, jvm_name);
     return change_status::done;
 }
@@ -85,7 +84,7 @@ int locale_database::modify_encoding_alias(std::string_view encoding, std::strin
     if (encoding.empty() || alias.empty())
         return change_status::empty_argument;
     char const* const present = get_standard_encoding_name(alias);
-    if (present != nullptr && present == encoding)
+    if (present && present == encoding)
         return change_status::already_there;
     encoding_entry const& entry = find_or_create_encoding(context_, encoding);
     context_.encoding_entry_map.insert_or_assign(key_of(alias), entry);

@@ -1,7 +1,6 @@
-#include "locale_data/database/locale_database_init.hpp"
-
-#include "locale_data/database/locale_database_keys.hpp"
-#include "locale_data/database/value_names.hpp"
+// The built-in tables, entered into the maps: rows of indices become keys and texts.
+#include "locale_data/database/locale_database_context.hpp"
+#include "locale_data/database/name_tables.hpp"
 #include "support/ascii.hpp"
 
 #include <fl/i18n/locale_tables.hpp>
@@ -14,6 +13,20 @@ namespace {
 using index_map = name_map<unsigned short>;
 using text_map = name_map<char const*>;
 using name_accessor = char const* (*)(unsigned short) noexcept;
+
+// Names that only the database hands out, so that no public function has them.
+
+char const* encoding_alias_name(unsigned short index) noexcept {
+    return tables::encoding_alias_names[index];
+}
+
+char const* locale_value_name(unsigned short index) noexcept {
+    return tables::locale_names[index];
+}
+
+char const* xpg_value_name(unsigned short index) noexcept {
+    return tables::xpg_names[index];
+}
 
 /// Every name of a table, lower-case, to its index.
 void load_names(index_map& map, name_accessor name_of, std::size_t count) {

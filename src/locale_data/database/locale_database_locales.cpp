@@ -1,6 +1,5 @@
 // Names of locales, and the values filed under them.
 #include "locale_data/database/locale_database_context.hpp"
-#include "locale_data/database/locale_database_keys.hpp"
 
 #include <fl/i18n/locale_database.hpp>
 
@@ -14,7 +13,7 @@ void point_alias(locale_database_context& context, text_map& map, std::string_vi
                  std::string_view alias) {
     std::string const key(locale_key(locale).view());
     char const* const* const present = find_value(map, key);
-    bool const is_canonical = present != nullptr && *present == locale;
+    bool const is_canonical = present && *present == locale;
     char const* const target = is_canonical ? *present : context.store_character_data(locale);
     if (!is_canonical)
         map.insert_or_assign(key, target);

@@ -1,8 +1,5 @@
-#include "locale_data/database/split.hpp"
-
 #include <fl/i18n/locale_name.hpp>
 
-#include <cstddef>
 #include <utility>
 
 namespace fl::i18n::lcmgmt {
@@ -21,17 +18,6 @@ void append_unless_empty(std::string& text, char separator, std::string_view par
 void append_each(std::string& text, char separator, std::vector<std::string> const& parts) {
     for (std::string const& part : parts)
         append(text, separator, part);
-}
-
-/// The text behind the first separator, cut off `text` together with it; a null view if there is no
-/// separator.
-std::string_view cut_behind(std::string_view& text, char separator) {
-    std::size_t const place = text.find(separator);
-    if (place == std::string_view::npos)
-        return {};
-    std::string_view const behind = text.substr(place + 1);
-    text = text.substr(0, place);
-    return behind;
 }
 
 } // namespace
@@ -106,21 +92,6 @@ std::string locale_name_element::language_tag() const {
         append_each(tag, '-', private_use_list);
     }
     return tag;
-}
-
-/// name = tag ["." encoding] *("@" modifier)
-std::string_view extract_short_name(std::string_view name) noexcept {
-    return name.substr(0, name.find_first_of(".@"));
-}
-
-locale_name_element decompose_locale_name(std::string_view name) {
-    locale_name_element element;
-    if (std::string_view const modifiers = cut_behind(name, '@'); modifiers.data() != nullptr)
-        element.modifier_list = split(modifiers, '@');
-    element.encoding = cut_behind(name, '.');
-    if (!decompose_language_tag(element, name))
-        return {};
-    return element;
 }
 
 } // namespace fl::i18n::lcmgmt

@@ -1,5 +1,4 @@
-#include "locale_data/database/split.hpp"
-
+// The parser of locale names, which takes the three forms by one grammar.
 #include <fl/i18n/locale_name.hpp>
 
 #include <cstddef>
@@ -9,6 +8,29 @@ namespace fl::i18n::lcmgmt {
 namespace {
 
 constexpr std::string_view delimiters = "-_";
+
+/// The pieces between separators, empty ones included: an empty text is one empty piece.
+std::vector<std::string> split(std::string_view text, char separator) {
+    std::vector<std::string> pieces;
+    for (;;) {
+        std::size_t const end = text.find(separator);
+        pieces.emplace_back(text.substr(0, end));
+        if (end == std::string_view::npos)
+            return pieces;
+        text.remove_prefix(end + 1);
+    }
+}
+
+/// The text behind the first separator, cut off `text` together with it; a null view if there is no
+/// separator.
+std::string_view cut_behind(std::string_view& text, char separator) {
+    std::size_t const place = text.find(separator);
+    if (place == std::string_view::npos)
+        return {};
+    std::string_view const behind = text.substr(place + 1);
+    text = text.substr(0, place);
+    return behind;
+}
 
 /// The subtags behind the language:
 ///
@@ -96,6 +118,21 @@ bool decompose_language_tag(locale_name_element& element, std::string_view tag) 
         return false;
     element.language = language;
     return end == std::string_view::npos || read_subtags(element, tag.substr(end + 1));
+}
+
+/// name = tag ["." encoding] *("@" modifier)
+std::string_view extract_short_name(std::string_view name) noexcept {
+    return name.substr(0, name.find_first_of(".@"));
+}
+
+locale_name_element decompose_locale_name(std::string_view name) {
+    locale_name_element element;
+    if (std::string_view const modifiers = cut_behind(name, '@'); modifiers.data())
+        element.modifier_list = split(modifiers, '@');
+    element.encoding = cut_behind(name, '.');
+    if (!decompose_language_tag(element, name))
+        return {};
+    return element;
 }
 
 } // namespace fl::i18n::lcmgmt

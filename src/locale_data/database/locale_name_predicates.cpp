@@ -1,3 +1,4 @@
+// The classes of subtags, each by its length and its characters.
 #include "support/ascii.hpp"
 
 #include <fl/i18n/locale_name.hpp>

@@ -1,9 +1,4 @@
-#include "locale_data/database/encoding_name_tables.hpp"
-#include "locale_data/database/language_name_tables.hpp"
-#include "locale_data/database/locale_value_tables.hpp"
-#include "locale_data/database/region_name_tables.hpp"
-#include "locale_data/database/script_name_tables.hpp"
-#include "locale_data/database/value_names.hpp"
+#include "locale_data/database/name_tables.hpp"
 
 #include <fl/i18n/locale_tables.hpp>
 
@@ -39,22 +34,11 @@ std::size_t get_encoding_name_table_size() noexcept {
     return std::size(tables::encoding_names);
 }
 
-char const* encoding_alias_name(unsigned short index) noexcept {
-    return tables::encoding_alias_names[index];
-}
 std::size_t get_encoding_alias_name_table_size() noexcept {
     return std::size(tables::encoding_alias_names);
 }
-
-char const* locale_value_name(unsigned short index) noexcept {
-    return tables::locale_names[index];
-}
 std::size_t get_locale_name_table_size() noexcept {
     return std::size(tables::locale_names);
-}
-
-char const* xpg_value_name(unsigned short index) noexcept {
-    return tables::xpg_names[index];
 }
 std::size_t get_xpg_name_table_size() noexcept {
     return std::size(tables::xpg_names);

@@ -1,5 +1,5 @@
-/// Each encoding with the name that a Java VM has for it, where that differs, and its further names. The Java
-/// name is one of the further names.
+// Each encoding with the name that a Java VM has for it, where that differs, and its further names. The Java
+// name is one of the further names.
 #include "locale_data/database/table_rows.hpp"
 
 #include <iterator>

@@ -1,5 +1,5 @@
-/// The language data. The last preferred row of a language wins among those that fit a name, and rows may
-/// overlap: their order, and the order of the codes in a list, are part of the data.
+// The language data. The last preferred row of a language wins among those that fit a name, and rows may
+// overlap: their order, and the order of the codes in a list, are part of the data.
 #include "locale_data/database/table_rows.hpp"
 
 #include <iterator>

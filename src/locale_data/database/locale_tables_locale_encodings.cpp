@@ -1,4 +1,4 @@
-/// The encodings of locales, grouped by encoding. They win over those of the language data.
+// The encodings of locales, grouped by encoding. They win over those of the language data.
 #include "locale_data/database/table_rows.hpp"
 
 #include <iterator>

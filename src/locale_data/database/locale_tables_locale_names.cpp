@@ -1,6 +1,6 @@
-/// Spellings of locale names and the canonical names that they lead to: bare languages, retired codes, pseudo
-/// regions. Some lead to unexpected places ("ee" to Estonia, "ny" to Norway); callers depend on them as they
-/// are.
+// Spellings of locale names and the canonical names that they lead to: bare languages, retired codes, pseudo
+// regions. Some lead to unexpected places ("ee" to Estonia, "ny" to Norway); callers depend on them as they
+// are.
 #include "locale_data/database/table_rows.hpp"
 
 #include <iterator>

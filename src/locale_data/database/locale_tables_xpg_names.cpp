@@ -1,4 +1,4 @@
-/// The names that systems of the X/Open Portability Guide give to locales.
+// The names that systems of the X/Open Portability Guide give to locales.
 #include "locale_data/database/table_rows.hpp"
 
 #include <iterator>

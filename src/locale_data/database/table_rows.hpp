@@ -2,12 +2,7 @@
 /// indices. "-" stands for none. A name that its name table lacks doesn't compile.
 #pragma once
 
-#include "locale_data/database/encoding_name_tables.hpp"
-#include "locale_data/database/language_name_tables.hpp"
-#include "locale_data/database/locale_value_tables.hpp"
-#include "locale_data/database/region_name_tables.hpp"
-#include "locale_data/database/script_name_tables.hpp"
-#include "locale_data/database/value_names.hpp"
+#include "locale_data/database/name_tables.hpp"
 
 #include <fl/i18n/locale_tables.hpp>
 
