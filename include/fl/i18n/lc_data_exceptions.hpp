@@ -26,15 +26,11 @@ namespace fl::i18n::lcmgmt {
 /// Root of the family.
 class FL_I18N_EXPORT LcRscExceptionBase : public std::exception {
 public:
-    LcRscExceptionBase(LcRscExceptionBase const&) = default;
-    LcRscExceptionBase& operator=(LcRscExceptionBase const&) = default;
-    ~LcRscExceptionBase() override;
-
     /// The error id, the same text as `error_id()`, not the message. Valid as long as the exception.
     char const* what() const noexcept override;
 
     /// The error id, "fl:i18n:" and the name of the class.
-    std::string const& error_id() const noexcept { return error_id_; }
+    std::string const& error_id() const noexcept { return id_; }
     /// The number of the class within the family: 2 to 5.
     std::int32_t code() const noexcept { return code_; }
     /// An English sentence, with the path or the place of the error. It is what start-up keeps as its
@@ -45,7 +41,9 @@ protected:
     LcRscExceptionBase(std::string error_id, std::int32_t code, std::string message);
 
 private:
-    std::string error_id_;
+    virtual void anchor() const; // keeps the virtual table and the type information in one object file
+
+    std::string id_;
     std::int32_t code_;
     std::string message_;
 };
@@ -55,9 +53,9 @@ private:
 class FL_I18N_EXPORT LcRscOpenFileFailure : public LcRscExceptionBase {
 public:
     explicit LcRscOpenFileFailure(std::string_view path);
-    LcRscOpenFileFailure(LcRscOpenFileFailure const&) = default;
-    LcRscOpenFileFailure& operator=(LcRscOpenFileFailure const&) = default;
-    ~LcRscOpenFileFailure() override;
+
+private:
+    void anchor() const override;
 };
 
 /// The system failed to read from the open file; so it does from a directory. What had been read by then was
@@ -65,18 +63,18 @@ public:
 class FL_I18N_EXPORT LcRscFileReadFailure : public LcRscExceptionBase {
 public:
     explicit LcRscFileReadFailure(std::string_view path);
-    LcRscFileReadFailure(LcRscFileReadFailure const&) = default;
-    LcRscFileReadFailure& operator=(LcRscFileReadFailure const&) = default;
-    ~LcRscFileReadFailure() override;
+
+private:
+    void anchor() const override;
 };
 
 /// There was no memory for an XML parser. Nothing was applied. Code 4, "Failed to create XML parser.".
 class FL_I18N_EXPORT LcRscParserCreationFailure : public LcRscExceptionBase {
 public:
     LcRscParserCreationFailure();
-    LcRscParserCreationFailure(LcRscParserCreationFailure const&) = default;
-    LcRscParserCreationFailure& operator=(LcRscParserCreationFailure const&) = default;
-    ~LcRscParserCreationFailure() override;
+
+private:
+    void anchor() const override;
 };
 
 /// The document isn't well-formed, goes beyond a limit, or breaks a rule of its format. The elements before
@@ -90,9 +88,9 @@ public:
 class FL_I18N_EXPORT LcRscInvalidXmlDoc : public LcRscExceptionBase {
 public:
     LcRscInvalidXmlDoc(int error, std::uint64_t column, std::uint64_t line);
-    LcRscInvalidXmlDoc(LcRscInvalidXmlDoc const&) = default;
-    LcRscInvalidXmlDoc& operator=(LcRscInvalidXmlDoc const&) = default;
-    ~LcRscInvalidXmlDoc() override;
+
+private:
+    void anchor() const override;
 };
 
 } // namespace fl::i18n::lcmgmt

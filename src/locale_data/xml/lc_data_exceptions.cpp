@@ -6,6 +6,7 @@
 namespace fl::i18n::lcmgmt {
 namespace {
 
+/// Printable ASCII as it is, any other byte in hexadecimal: a path may be in any encoding.
 std::string printable(std::string_view path) {
     std::string text;
     for (char const c : path) {
@@ -27,34 +28,34 @@ std::string place_of_error(int error, std::uint64_t column, std::uint64_t line) 
 } // namespace
 
 LcRscExceptionBase::LcRscExceptionBase(std::string error_id, std::int32_t code, std::string message)
-    : error_id_(std::move(error_id)),
+    : id_(std::move(error_id)),
       code_(code),
       message_(std::move(message)) {}
 
-LcRscExceptionBase::~LcRscExceptionBase() = default;
-
 char const* LcRscExceptionBase::what() const noexcept {
-    return error_id_.c_str();
+    return id_.c_str();
 }
+
+void LcRscExceptionBase::anchor() const {}
 
 LcRscOpenFileFailure::LcRscOpenFileFailure(std::string_view path)
     : LcRscExceptionBase("fl:i18n:LcRscOpenFileFailure", 2, "Failed to open file " + printable(path) + ".") {}
 
-LcRscOpenFileFailure::~LcRscOpenFileFailure() = default;
+void LcRscOpenFileFailure::anchor() const {}
 
 LcRscFileReadFailure::LcRscFileReadFailure(std::string_view path)
     : LcRscExceptionBase("fl:i18n:LcRscFileReadFailure", 3, "Failed to read file " + printable(path) + ".") {}
 
-LcRscFileReadFailure::~LcRscFileReadFailure() = default;
+void LcRscFileReadFailure::anchor() const {}
 
 LcRscParserCreationFailure::LcRscParserCreationFailure()
     : LcRscExceptionBase("fl:i18n:LcRscParserCreationFailure", 4, "Failed to create XML parser.") {}
 
-LcRscParserCreationFailure::~LcRscParserCreationFailure() = default;
+void LcRscParserCreationFailure::anchor() const {}
 
 LcRscInvalidXmlDoc::LcRscInvalidXmlDoc(int error, std::uint64_t column, std::uint64_t line)
     : LcRscExceptionBase("fl:i18n:LcRscInvalidXmlDoc", 5, place_of_error(error, column, line)) {}
 
-LcRscInvalidXmlDoc::~LcRscInvalidXmlDoc() = default;
+void LcRscInvalidXmlDoc::anchor() const {}
 
 } // namespace fl::i18n::lcmgmt
