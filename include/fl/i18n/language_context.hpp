@@ -44,7 +44,7 @@ struct FL_I18N_EXPORT language_context {
           preferred(preferred_flag) {}
 
     /// True if no row was found. Only `preferred` decides, whatever the indices are.
-    constexpr bool empty() const noexcept { return preferred == 0xFF; }
+    [[nodiscard]] constexpr bool empty() const noexcept { return preferred == 0xFF; }
 
     unsigned short language;
     unsigned short script;
@@ -59,26 +59,26 @@ struct FL_I18N_EXPORT language_context {
 /// searched with the script, if there is one, and the region, or else the language's letters as a region. The
 /// last preferred row that fits wins; without one there must be exactly one that fits. The reference lives as
 /// long as the database.
-FL_I18N_EXPORT language_context const& get_raw_language_context(locale_database_context const& context,
-                                                                locale_name_element const& element);
+[[nodiscard]] FL_I18N_EXPORT language_context const&
+get_raw_language_context(locale_database_context const& context, locale_name_element const& element);
 
 /// The same row with script and region narrowed to one code each; the empty context if there is no row.
 ///
 /// A script is kept only if the name gave it. A region is kept if the name, or the rule for a missing region,
 /// chose it; a language with a single row of a single region brings that region.
-FL_I18N_EXPORT language_context get_language_context(locale_database_context const& context,
-                                                     locale_name_element const& element);
+[[nodiscard]] FL_I18N_EXPORT language_context get_language_context(locale_database_context const& context,
+                                                                   locale_name_element const& element);
 
 /// `get_language_context` of `decompose_locale_name(name)`; empty for a name that isn't well formed.
-FL_I18N_EXPORT language_context get_language_context(locale_database_context const& context,
-                                                     std::string_view name);
+[[nodiscard]] FL_I18N_EXPORT language_context get_language_context(locale_database_context const& context,
+                                                                   std::string_view name);
 
 /// The texts behind a narrowed context: language, script, region and encoding, each empty for none. The empty
 /// element for an empty context.
-FL_I18N_EXPORT locale_name_element get_locale_name_element(language_context const& language);
+[[nodiscard]] FL_I18N_EXPORT locale_name_element get_locale_name_element(language_context const& language);
 
 /// `get_locale_name_element` of `get_language_context(context, name)`.
-FL_I18N_EXPORT locale_name_element get_locale_name_element(locale_database_context const& context,
-                                                           std::string_view name);
+[[nodiscard]] FL_I18N_EXPORT locale_name_element
+get_locale_name_element(locale_database_context const& context, std::string_view name);
 
 } // namespace fl::i18n::lcmgmt

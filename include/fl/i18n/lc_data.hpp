@@ -67,16 +67,21 @@ public:
     void addEncodingAlias(std::string_view encoding, std::string_view alias);
 
     /// `lcmgmt::extract_short_name`.
-    static std::string extract_short_name(std::string_view name);
+    [[nodiscard]] static std::string extract_short_name(std::string_view name);
+
+    /// @name Names of encodings
+    /// <fl/i18n/string_conversion.hpp> has a table of who else names encodings, and which to ask.
+    /// @{
 
     /// True if the name or alias of an encoding is known. An empty name isn't.
-    static bool checkEncoding(std::string_view name);
+    [[nodiscard]] static bool checkEncoding(std::string_view name);
 
     /// The standard name of an encoding; the text as given if it is unknown.
-    static std::string getEncodingFromAlias(std::string_view name);
+    [[nodiscard]] static std::string getEncodingFromAlias(std::string_view name);
 
     /// The standard name of an encoding; empty if it is unknown.
-    static std::string getQnStandardEncodingName(std::string_view name);
+    [[nodiscard]] static std::string getQnStandardEncodingName(std::string_view name);
+    /// @}
 
 private:
     locale_database* database_;

@@ -31,7 +31,6 @@
 #include <fl/i18n/ustring.hpp>
 
 #include <cstddef>
-#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -77,7 +76,8 @@ inline constexpr int refused = 4; ///< a canonical name is not removed, an unkno
 } // namespace change_status
 
 /// The key of an option: the locale as it is given, ":", the option's type.
-FL_I18N_EXPORT std::string make_optional_data_key(std::string_view locale, std::string_view type);
+[[nodiscard]] FL_I18N_EXPORT std::string make_optional_data_key(std::string_view locale,
+                                                                std::string_view type);
 
 /// Lets the maps be searched by `std::string_view`, so that a look-up makes no string.
 struct name_hash {
@@ -125,61 +125,66 @@ public:
     locale_database(locale_database const&) = delete;
     locale_database& operator=(locale_database const&) = delete;
 
-    locale_database_context const& get_locale_database_context() const noexcept { return context_; }
+    [[nodiscard]] locale_database_context const& get_locale_database_context() const noexcept {
+        return context_;
+    }
 
     /// 0, or 5 if loading failed; then the log is the text of what went wrong.
-    int get_init_status() const noexcept { return init_status_; }
-    std::string const& get_init_status_log() const noexcept { return init_status_log_; }
+    [[nodiscard]] int get_init_status() const noexcept { return init_status_; }
+    [[nodiscard]] std::string const& get_init_status_log() const noexcept { return init_status_log_; }
 
     /// @name Raw look-ups
     /// The value of one key in one map, null if it isn't there. The name is brought into the form of the
     /// map's keys and not interpreted any further.
     /// @{
-    char const* fetch_locale_map(std::string_view name) const;
-    char const* fetch_region_locale_map(std::string_view name) const;
-    char const* fetch_locale_encoding_map(std::string_view name) const;
-    char const* fetch_default_encoding_name(std::string_view name) const; ///< as `fetch_locale_encoding_map`
-    char const* fetch_locale_xpg_name_map(std::string_view name) const;
-    std::shared_ptr<encoding_entry_context> fetch_encoding_entry_map(std::string_view name) const;
-    char const* fetch_encoding_compat_map(std::string_view name) const;
+    [[nodiscard]] char const* fetch_locale_map(std::string_view name) const;
+    [[nodiscard]] char const* fetch_region_locale_map(std::string_view name) const;
+    [[nodiscard]] char const* fetch_locale_encoding_map(std::string_view name) const;
+    [[nodiscard]] char const*
+    fetch_default_encoding_name(std::string_view name) const; ///< as `fetch_locale_encoding_map`
+    [[nodiscard]] char const* fetch_locale_xpg_name_map(std::string_view name) const;
+    [[nodiscard]] std::shared_ptr<encoding_entry_context>
+    fetch_encoding_entry_map(std::string_view name) const;
+    [[nodiscard]] char const* fetch_encoding_compat_map(std::string_view name) const;
     /// What the language data says about a name: `get_locale_name_element` on this database. No map is asked.
-    locale_name_element fetch_language_data_map(std::string_view name) const;
+    [[nodiscard]] locale_name_element fetch_language_data_map(std::string_view name) const;
     /// @}
 
     /// The canonical name of a locale: the value in the locale map, or else the short name of what the
     /// language data finds. Empty for an unknown name: "de_AT.UTF-8@euro" gives "de_AT", "C" gives
     /// "en_US_POSIX", "xx_YY" gives "".
-    std::string get_locale_name(std::string_view name) const;
+    [[nodiscard]] std::string get_locale_name(std::string_view name) const;
 
     /// The locale that a region's name leads to, or an empty text.
-    std::string get_region_locale_name(std::string_view name) const;
+    [[nodiscard]] std::string get_region_locale_name(std::string_view name) const;
 
     /// The encoding that goes with a locale; null only for an empty name.
     ///
     /// A name that the locale map knows is replaced by its canonical name. Then the table of locale encodings
     /// is asked for the name, then for the name as the language data resolves it; then the encoding of the
     /// language data itself counts. "UTF-8" serves where all of these are silent, also for an unknown locale.
-    char const* get_default_encoding_name(std::string_view name) const;
+    [[nodiscard]] char const* get_default_encoding_name(std::string_view name) const;
 
     /// The XPG name of a locale, or of what `get_locale_name` makes of it; null if it has none.
-    char const* get_xpg_name(std::string_view name) const;
+    [[nodiscard]] char const* get_xpg_name(std::string_view name) const;
 
     /// The entry that a name or alias of an encoding leads to, or null. The entry is shared and
     /// may outlive its place in the map; its texts live as long as the database.
-    std::shared_ptr<encoding_entry_context> get_encoding_context(std::string_view name) const;
+    [[nodiscard]] std::shared_ptr<encoding_entry_context> get_encoding_context(std::string_view name) const;
 
     /// The standard name of an encoding, null if it is unknown: "UTF8" gives "UTF-8".
-    char const* get_standard_encoding_name(std::string_view name) const;
+    /// <fl/i18n/string_conversion.hpp> has a table of who else names encodings, and which to ask.
+    [[nodiscard]] char const* get_standard_encoding_name(std::string_view name) const;
 
     /// The name that a Java VM has for an encoding, null if it is unknown: "Big5" gives "MS950", and
     /// "EUC-JP", which has no other name there, "EUC-JP".
-    char const* get_jvm_encoding_name(std::string_view name) const;
+    [[nodiscard]] char const* get_jvm_encoding_name(std::string_view name) const;
 
     /// The option of a locale. The locale counts as given, so ask with its canonical name. An empty record if
     /// an argument is empty or nothing is stored; the reference lives as long as the database, unless
     /// `remove_locale_optdata_entry` removes what it refers to.
-    locale_optional_data const& get_optional_data_context(std::string_view locale,
-                                                          std::string_view type) const;
+    [[nodiscard]] locale_optional_data const& get_optional_data_context(std::string_view locale,
+                                                                        std::string_view type) const;
 
     /// @name Changes of locales
     ///

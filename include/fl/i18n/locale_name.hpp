@@ -53,55 +53,55 @@ struct FL_I18N_EXPORT locale_name_element {
     std::vector<std::string> private_use_list;              ///< the subtags behind the prefix
 
     /// The language alone: "sr".
-    std::string language_name_without_script() const;
+    [[nodiscard]] std::string language_name_without_script() const;
     /// Language and script: "sr-Latn".
-    std::string language_name_with_script() const;
+    [[nodiscard]] std::string language_name_with_script() const;
     /// Language and region: "sr_BA".
-    std::string short_locale_name_without_script() const;
+    [[nodiscard]] std::string short_locale_name_without_script() const;
     /// Language, script and region, the key of a locale throughout the library: "sr-Latn_BA".
-    std::string short_locale_name() const;
+    [[nodiscard]] std::string short_locale_name() const;
     /// `short_locale_name()` and the encoding: "sr-Latn_BA.UTF-8".
-    std::string locale_name() const;
+    [[nodiscard]] std::string locale_name() const;
     /// `locale_name()` and `modifiers()`. Variants, extensions and private-use subtags aren't part of it.
-    std::string full_locale_name() const;
+    [[nodiscard]] std::string full_locale_name() const;
     /// Each modifier with an "@" before it: "@euro@phonebook".
-    std::string modifiers() const;
+    [[nodiscard]] std::string modifiers() const;
     /// Each variant with a "-" before it: "-POSIX".
-    std::string variants() const;
+    [[nodiscard]] std::string variants() const;
     /// The language tag, joined by "-" throughout: "de-AT-1996x-a-bc-x-priv". Encoding and modifiers aren't
     /// part of it.
-    std::string language_tag() const;
+    [[nodiscard]] std::string language_tag() const;
 };
 
 /// Two or three letters.
-FL_I18N_EXPORT bool is_valid_language_name(std::string_view text) noexcept;
+[[nodiscard]] FL_I18N_EXPORT bool is_valid_language_name(std::string_view text) noexcept;
 /// Four letters.
-FL_I18N_EXPORT bool is_valid_script_name(std::string_view text) noexcept;
+[[nodiscard]] FL_I18N_EXPORT bool is_valid_script_name(std::string_view text) noexcept;
 /// Two letters. Numeric regions are for `is_valid_area_code`.
-FL_I18N_EXPORT bool is_valid_region_name(std::string_view text) noexcept;
+[[nodiscard]] FL_I18N_EXPORT bool is_valid_region_name(std::string_view text) noexcept;
 /// Three digits, the form of a UN M.49 area.
-FL_I18N_EXPORT bool is_valid_area_code(std::string_view text) noexcept;
+[[nodiscard]] FL_I18N_EXPORT bool is_valid_area_code(std::string_view text) noexcept;
 /// Five to eight letters or digits.
-FL_I18N_EXPORT bool is_valid_variant(std::string_view text) noexcept;
+[[nodiscard]] FL_I18N_EXPORT bool is_valid_variant(std::string_view text) noexcept;
 /// One letter or digit, but neither 'x' nor 'X', which open the private-use part.
-FL_I18N_EXPORT bool is_valid_singleton(char character) noexcept;
+[[nodiscard]] FL_I18N_EXPORT bool is_valid_singleton(char character) noexcept;
 /// Two to eight letters or digits.
-FL_I18N_EXPORT bool is_valid_extension(std::string_view text) noexcept;
+[[nodiscard]] FL_I18N_EXPORT bool is_valid_extension(std::string_view text) noexcept;
 /// One to eight letters or digits.
-FL_I18N_EXPORT bool is_valid_private_use(std::string_view text) noexcept;
+[[nodiscard]] FL_I18N_EXPORT bool is_valid_private_use(std::string_view text) noexcept;
 /// True if every member is a valid private-use subtag, and so for an empty list.
-FL_I18N_EXPORT bool is_valid_private_use_list(std::vector<std::string> const& list) noexcept;
+[[nodiscard]] FL_I18N_EXPORT bool is_valid_private_use_list(std::vector<std::string> const& list) noexcept;
 
 /// Parses a locale name of any of the three forms; the empty element if it isn't well formed.
 ///
 /// The first "@" is looked for before the first ".": "de_DE@euro.UTF-8" has one modifier, "euro.UTF-8", and
 /// no encoding. Modifiers keep empty pieces, so "en_US@" has a list of one empty text. "C" and "POSIX" aren't
 /// well formed; `locale_database::get_locale_name` knows them. Takes time linear in the length of the name.
-FL_I18N_EXPORT locale_name_element decompose_locale_name(std::string_view name);
+[[nodiscard]] FL_I18N_EXPORT locale_name_element decompose_locale_name(std::string_view name);
 
 /// The text before the first "." or "@": a locale name without encoding and modifiers. Nothing is checked; a
 /// text that has neither character is returned whole. A part of `name`, and valid as long as it is.
-FL_I18N_EXPORT std::string_view extract_short_name(std::string_view name) noexcept;
+[[nodiscard]] FL_I18N_EXPORT std::string_view extract_short_name(std::string_view name) noexcept;
 
 /// Parses the part of a name before encoding and modifiers into an element, and returns whether it is well
 /// formed.

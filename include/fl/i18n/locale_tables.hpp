@@ -25,28 +25,28 @@
 namespace fl::i18n::lcmgmt {
 
 /// An ISO 639 code of two or three lower-case letters; sorted from "aa" to "zza".
-FL_I18N_EXPORT char const* get_language_name(unsigned short index) noexcept;
-FL_I18N_EXPORT std::size_t get_language_name_table_size() noexcept;
+[[nodiscard]] FL_I18N_EXPORT char const* get_language_name(unsigned short index) noexcept;
+[[nodiscard]] FL_I18N_EXPORT std::size_t get_language_name_table_size() noexcept;
 
 /// An ISO 15924 code, or a list of them with a blank between two, such as "Arab Cyrl Latn". The single codes
 /// come first; codes and lists are each sorted.
-FL_I18N_EXPORT char const* get_script_name(unsigned short index) noexcept;
-FL_I18N_EXPORT std::size_t get_script_name_table_size() noexcept;
+[[nodiscard]] FL_I18N_EXPORT char const* get_script_name(unsigned short index) noexcept;
+[[nodiscard]] FL_I18N_EXPORT std::size_t get_script_name_table_size() noexcept;
 
 /// A region of two upper-case letters, a list of them with a blank between two, or a numeric area ("419").
 /// They come in this order, each kind sorted.
-FL_I18N_EXPORT char const* get_region_name(unsigned short index) noexcept;
-FL_I18N_EXPORT std::size_t get_region_name_table_size() noexcept;
+[[nodiscard]] FL_I18N_EXPORT char const* get_region_name(unsigned short index) noexcept;
+[[nodiscard]] FL_I18N_EXPORT std::size_t get_region_name_table_size() noexcept;
 
 /// The standard name of an encoding, such as "ISO-8859-1".
-FL_I18N_EXPORT char const* get_encoding_name(unsigned short index) noexcept;
-FL_I18N_EXPORT std::size_t get_encoding_name_table_size() noexcept;
+[[nodiscard]] FL_I18N_EXPORT char const* get_encoding_name(unsigned short index) noexcept;
+[[nodiscard]] FL_I18N_EXPORT std::size_t get_encoding_name_table_size() noexcept;
 
 /// How many further names of encodings, canonical locale names, and XPG names there are. Their texts are
 /// reached through `locale_database`.
-FL_I18N_EXPORT std::size_t get_encoding_alias_name_table_size() noexcept;
-FL_I18N_EXPORT std::size_t get_locale_name_table_size() noexcept;
-FL_I18N_EXPORT std::size_t get_xpg_name_table_size() noexcept;
+[[nodiscard]] FL_I18N_EXPORT std::size_t get_encoding_alias_name_table_size() noexcept;
+[[nodiscard]] FL_I18N_EXPORT std::size_t get_locale_name_table_size() noexcept;
+[[nodiscard]] FL_I18N_EXPORT std::size_t get_xpg_name_table_size() noexcept;
 
 /// The names of one encoding.
 struct encoding_name_entry {
@@ -84,16 +84,16 @@ struct locale_key_entry {
 };
 
 /// The language data, grouped by language. The order of the rows of one language is part of their meaning.
-FL_I18N_EXPORT std::vector<language_context> get_lang_data_init_table();
+[[nodiscard]] FL_I18N_EXPORT std::vector<language_context> get_lang_data_init_table();
 /// One row for each encoding, in the order of their names.
-FL_I18N_EXPORT std::vector<encoding_name_entry> get_encoding_name_entry_init_table();
+[[nodiscard]] FL_I18N_EXPORT std::vector<encoding_name_entry> get_encoding_name_entry_init_table();
 /// Bare languages, retired codes and odd spellings, with the canonical names that they lead to.
-FL_I18N_EXPORT std::vector<locale_name_entry> get_locale_name_entry_table();
+[[nodiscard]] FL_I18N_EXPORT std::vector<locale_name_entry> get_locale_name_entry_table();
 /// The XPG names of locales.
-FL_I18N_EXPORT std::vector<locale_key_entry> get_locale_xpg_name_init_table();
+[[nodiscard]] FL_I18N_EXPORT std::vector<locale_key_entry> get_locale_xpg_name_init_table();
 /// The encodings of locales that are the same on every system.
-FL_I18N_EXPORT std::vector<locale_key_entry> get_common_locale_encoding_init_table();
+[[nodiscard]] FL_I18N_EXPORT std::vector<locale_key_entry> get_common_locale_encoding_init_table();
 /// The default encodings of locales.
-FL_I18N_EXPORT std::vector<locale_key_entry> get_locale_encoding_init_table();
+[[nodiscard]] FL_I18N_EXPORT std::vector<locale_key_entry> get_locale_encoding_init_table();
 
 } // namespace fl::i18n::lcmgmt
