@@ -27,22 +27,21 @@ void report(int status, std::string_view step, texts arguments) {
 
 /// True if a value is given that the database doesn't have.
 bool is_news(std::string_view given, char const* present) {
-    return !given.empty() && (present == nullptr || present != given);
+    return !given.empty() && (!present || present != given);
 }
 
 /// The encoding that a correction is compared with: the locale's own, or, for a name that is no key of the
 /// locale map, what the language data says. An empty text is never equal to what is given.
 std::string known_encoding(locale_database const& database, std::string_view locale) {
-    if (database.fetch_locale_map(locale) == nullptr)
+    if (!database.fetch_locale_map(locale))
         return database.fetch_language_data_map(locale).encoding;
     char const* const encoding = database.fetch_locale_encoding_map(locale);
-    return encoding == nullptr ? std::string() : std::string(encoding);
+    return encoding ? std::string(encoding) : std::string();
 }
 
 /// The XPG name likewise; language data knows none.
 char const* known_xpg_name(locale_database const& database, std::string_view locale) {
-    return database.fetch_locale_map(locale) == nullptr ? nullptr
-                                                        : database.fetch_locale_xpg_name_map(locale);
+    return database.fetch_locale_map(locale) ? database.fetch_locale_xpg_name_map(locale) : nullptr;
 }
 
 } // namespace
@@ -61,15 +60,13 @@ void LcData::addLcName(std::string_view locale, std::string_view encoding, std::
 }
 
 void LcData::addAliasLcName(std::string_view locale, std::string_view alias) {
-    if (char const* const present = database_->fetch_locale_map(alias);
-        present == nullptr || present != locale)
+    if (char const* const present = database_->fetch_locale_map(alias); !present || present != locale)
         report(database_->modify_locale_alias(locale, alias), "addAliasLcName::modifyLcAliasName",
                {locale, alias});
 }
 
 void LcData::addRegionAliasLcName(std::string_view locale, std::string_view alias) {
-    if (char const* const present = database_->fetch_region_locale_map(alias);
-        present == nullptr || present != locale)
+    if (char const* const present = database_->fetch_region_locale_map(alias); !present || present != locale)
         report(database_->modify_region_locale_alias(locale, alias),
                "addRegionAliasLcName::modifyLcAliasName", {locale, alias});
 }

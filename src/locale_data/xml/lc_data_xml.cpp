@@ -7,6 +7,7 @@
 
 #include <filesystem>
 #include <ios>
+#include <utility>
 
 namespace fl::i18n::lcmgmt {
 namespace {
@@ -46,7 +47,8 @@ static void XMLCALL fl_i18n_lcdata_text(void* user_data, XML_Char const* text, i
 
 } // extern "C"
 
-/// Pipes and devices might never answer. A directory can be opened, and then fails to be read.
+/// Pipes and devices might never answer. A directory can be opened, and then fails to be read. The standard
+/// library is asked, since the name is bytes in any encoding, and `filesystem::status` takes text.
 bool is_openable(std::string const& name) {
     std::error_code ignored;
     std::filesystem::file_status const status = std::filesystem::status(name, ignored);
@@ -71,6 +73,34 @@ void open(filesystem::basic_ifstream<char>& file, filesystem::native_path const&
 }
 
 } // namespace
+
+EventHandler::~EventHandler() = default;
+
+void EventValidator::setEventDesc(std::string name, int id, std::string parent) {
+    descriptions_.insert_or_assign(std::move(name), description{id, std::move(parent)});
+}
+
+int EventValidator::checkStartEvent(std::string_view name) {
+    auto const place = descriptions_.find(name);
+    if (place == descriptions_.end())
+        return invalid;
+    description const& element = place->second;
+    if (!open_.empty()) {
+        if (open_.back() == name)
+            return element.id; // not opened a second time
+        if (open_.back() != element.parent)
+            return invalid;
+    }
+    open_.emplace_back(name);
+    return element.id;
+}
+
+int EventValidator::checkEndEvent(std::string_view name) {
+    if (open_.empty() || open_.back() != name)
+        return invalid;
+    open_.pop_back();
+    return 0;
+}
 
 void parseXmlDocument(EventHandler& handler, filesystem::native_path const& path) {
     filesystem::basic_ifstream<char> file;

@@ -1,3 +1,4 @@
+// What each element of the XML form means to a database.
 #include "support/ascii.hpp"
 
 #include <fl/i18n/lc_data_xml.hpp>
@@ -21,14 +22,12 @@ struct LcdbEventHandler::attribute {
 
     /// Keeps of each known attribute the first value that isn't empty. The values are empty before.
     static void read(char const** attributes, std::initializer_list<attribute> known) {
-        for (; *attributes != nullptr; attributes += 2)
+        for (; *attributes; attributes += 2)
             for (auto const& [name, value] : known)
                 if (value->empty() && std::string_view(attributes[0]) == name)
                     *value = attributes[1];
     }
 };
-
-EventHandler::~EventHandler() = default;
 
 LcdbEventHandler::LcdbEventHandler(locale_database& database) : data_(database) {
     setEventDesc();
@@ -48,8 +47,7 @@ void LcdbEventHandler::setEventDesc() {
 }
 
 int LcdbEventHandler::checkXMLDoc(char const*, char const* encoding, int) const {
-    bool const same =
-        encoding != nullptr && support::ascii_lower_copy(encoding) == support::ascii_lower_copy(encoding_);
+    bool const same = encoding && support::ascii_lower_copy(encoding) == support::ascii_lower_copy(encoding_);
     return same ? 0 : EventValidator::invalid;
 }
 
