@@ -12,7 +12,7 @@ namespace {
 std::string_view first_set(std::initializer_list<char const*> variables) {
     for (char const* const variable : variables) {
         char const* const value = std::getenv(variable);
-        if (value != nullptr && *value != '\0')
+        if (value && *value != '\0')
             return value;
     }
     return {};

@@ -1,7 +1,6 @@
-#include "platform/directory.hpp"
+// Linux with glibc: what the loader, the kernel and the environment tell.
 #include "platform/environment_preferences.hpp"
 #include "platform/posix.hpp"
-#include "platform/stat_times.hpp"
 
 #include <array>
 #include <cerrno>
@@ -20,13 +19,13 @@ namespace {
 /// The loader's record of the module with `address`; without a file name if there is none.
 Dl_info module_at(void const* address) noexcept {
     Dl_info info{};
-    if (address == nullptr || ::dladdr(address, &info) == 0 || info.dli_fname == nullptr)
+    if (!address || ::dladdr(address, &info) == 0 || !info.dli_fname)
         return Dl_info{};
     return info;
 }
 
 bool is_relative(Dl_info const& module) noexcept {
-    return module.dli_fname != nullptr && module.dli_fname[0] != '/';
+    return module.dli_fname && module.dli_fname[0] != '/';
 }
 
 /// The loader keeps the name that it loaded this module by, which may be relative to the working directory of
@@ -35,7 +34,7 @@ struct own_name_at_load {
     own_name_at_load() noexcept {
         Dl_info const module = module_at(this);
         base = module.dli_fbase;
-        if (!is_relative(module) || ::realpath(module.dli_fname, path.data()) == nullptr)
+        if (!is_relative(module) || !::realpath(module.dli_fname, path.data()))
             path[0] = '\0';
     }
 
@@ -49,7 +48,7 @@ own_name_at_load const own_name;
 bool is_main_program(Dl_info const& module) noexcept {
     auto const headers =
         reinterpret_cast<void const*>(::getauxval(AT_PHDR)); // NOLINT(performance-no-int-to-ptr)
-    return module.dli_fbase != nullptr && module.dli_fbase == module_at(headers).dli_fbase;
+    return module.dli_fbase && module.dli_fbase == module_at(headers).dli_fbase;
 }
 
 /// Empty if it can't be told.
@@ -73,11 +72,11 @@ public:
                 return path;
         }
         if (!is_relative(module))
-            return module.dli_fname != nullptr ? module.dli_fname : "";
+            return module.dli_fname ? module.dli_fname : "";
         if (module.dli_fbase == own_name.base && own_name.path[0] != '\0')
             return own_name.path.data();
         std::array<char, PATH_MAX> path;
-        return ::realpath(module.dli_fname, path.data()) != nullptr ? path.data() : module.dli_fname;
+        return ::realpath(module.dli_fname, path.data()) ? path.data() : module.dli_fname;
     }
 
     std::string user_locale() const override { return locale_of_environment(); }

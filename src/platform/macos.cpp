@@ -1,7 +1,6 @@
-#include "platform/directory.hpp"
+// macOS: volumes by their attributes, and what macos_preferences.hpp tells.
 #include "platform/macos_preferences.hpp"
 #include "platform/posix.hpp"
-#include "platform/stat_times.hpp"
 
 #include <cerrno>
 #include <dlfcn.h>
@@ -52,7 +51,7 @@ public:
 
     std::string module_path(void const* address) const override {
         Dl_info module{};
-        if (address == nullptr || ::dladdr(address, &module) == 0 || module.dli_fname == nullptr)
+        if (!address || ::dladdr(address, &module) == 0 || !module.dli_fname)
             return {};
         return module.dli_fname;
     }

@@ -19,7 +19,7 @@ using owned = std::unique_ptr<std::remove_pointer_t<Reference>, release_object>;
 constexpr CFIndex smallest_buffer = 128; // bytes, with the NUL
 
 bool has_type(CFTypeRef object, CFTypeID type) noexcept {
-    return object != nullptr && CFGetTypeID(object) == type;
+    return object && CFGetTypeID(object) == type;
 }
 
 /// The text of a string object; empty for null, for an object that is no string, and for a text that the
@@ -50,13 +50,15 @@ owned<CFPropertyListRef> application_value(CFStringRef key) {
     return owned<CFPropertyListRef>(CFPreferencesCopyAppValue(key, kCFPreferencesCurrentApplication));
 }
 
+/// False, with nothing appended, if the name is not ASCII.
 bool append(CFMutableArrayRef array, std::string const& name) {
     owned<CFStringRef> const string(
         CFStringCreateWithBytes(kCFAllocatorDefault, reinterpret_cast<UInt8 const*>(name.data()),
                                 static_cast<CFIndex>(name.size()), kCFStringEncodingASCII, false));
-    if (string)
-        CFArrayInsertValueAtIndex(array, CFArrayGetCount(array), string.get());
-    return string != nullptr;
+    if (!string)
+        return false;
+    CFArrayInsertValueAtIndex(array, CFArrayGetCount(array), string.get());
+    return true;
 }
 
 } // namespace

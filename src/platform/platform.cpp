@@ -5,13 +5,14 @@
 namespace fl::platform {
 namespace {
 
-std::atomic<services const*> replaced{nullptr}; // null: none
+/// Null while the system's own are in force. Set by tests alone.
+std::atomic<services const*> replaced{nullptr};
 
 } // namespace
 
 services const& current() noexcept {
     services const* const replacement = replaced.load(std::memory_order_acquire);
-    return replacement != nullptr ? *replacement : native();
+    return replacement ? *replacement : native();
 }
 
 scoped_services::scoped_services(services const& replacement) noexcept

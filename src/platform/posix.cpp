@@ -1,7 +1,5 @@
 #include "platform/posix.hpp"
 
-#include "platform/directory.hpp"
-
 #include <array>
 #include <cerrno>
 #include <climits>

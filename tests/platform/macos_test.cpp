@@ -1,6 +1,6 @@
 // The services of macOS on doubles of its calls, so that they are compiled and seen on any system.
-#include "platform/directory.hpp"
 #include "platform/platform.hpp"
+#include "platform/posix.hpp"
 #include "support/temp_tree.hpp"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "filesystem/directory/open_directory.hpp"
 
 #include "filesystem/primitives/utf8_name.hpp"
-#include "platform/directory.hpp"
+#include "platform/posix.hpp"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,6 +1,6 @@
 #include "filesystem/primitives/stat_record.hpp"
 
-#include "platform/stat_times.hpp"
+#include "platform/posix.hpp"
 #include "support/unix_epoch.hpp"
 
 #include <ctime>

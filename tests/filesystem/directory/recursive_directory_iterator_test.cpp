@@ -1,7 +1,7 @@
 #include "filesystem/directory/directory_node.hpp"
 #include "filesystem/directory/open_directory.hpp"
 #include "filesystem/directory/treatment.hpp"
-#include "platform/directory.hpp"
+#include "platform/posix.hpp"
 #include "support/rows.hpp"
 #include "support/temp_tree.hpp"
 
