@@ -32,22 +32,26 @@ struct MacosPreferences : testing::Test {
 } // namespace
 
 TEST(Macos, AVolumeTellsItsFlags) {
-    constexpr std::int32_t no_answer = -1, sensitive = 0x100, insensitive = 0x80;
+    constexpr std::int32_t no_answer = -1;
+    constexpr std::int32_t sensitive = 0x100;
+    constexpr std::int32_t insensitive = 0x80;
     struct {
         char const* file_system;
         std::int32_t format;
         std::uint32_t flags;
-        int error = 0;
+        int error;
     } const rows[] = {
-        {"apfs", sensitive, 16}, {"apfs", insensitive, 17}, {"apfs", no_answer, 16}, {"hfs", sensitive, 2},
-        {"hfs", insensitive, 3}, {"msdos", insensitive, 1}, {"nfs", no_answer, 0},   {nullptr, 0, 99, ENOENT},
+        {"apfs", sensitive, 16, 0}, {"apfs", insensitive, 17, 0},     {"apfs", no_answer, 16, 0},
+        {"hfs", sensitive, 2, 0},   {"hfs", insensitive, 3, 0},       {"msdos", insensitive, 1, 0},
+        {"nfs", no_answer, 0, 0},   {nullptr, no_answer, 99, ENOENT},
     };
     for (auto const& row : rows) {
         std::uint32_t flags = 99;
         fake_file_system = row.file_system;
         fake_volume_format = row.format;
+        SCOPED_TRACE(row.file_system ? row.file_system : "no file");
         EXPECT_EQ(macos.volume_flags("/x", flags), row.error);
-        EXPECT_EQ(flags, row.flags) << "row " << &row - rows;
+        EXPECT_EQ(flags, row.flags) << row.format;
     }
 }
 
@@ -60,7 +64,8 @@ TEST(Macos, AModuleIsKnownByTheLoadersName) {
 
 TEST(Macos, ADirectoryIsNotOpenedByALink) {
     fl::testing::temp_tree const tree;
-    tree.file("a/file"), create_symlink(tree.root(), tree.root() / "link");
+    tree.file("a/file");
+    create_symlink(tree.root(), tree.root() / "link");
     for (std::string const name : {"a", "link", "a/file", "no"}) {
         int const opened = fl::platform::open_directory_without_links(AT_FDCWD, (tree.root() / name).c_str());
         EXPECT_EQ(opened >= 0, name == "a") << name;
