@@ -10,8 +10,9 @@ namespace {
 
 enum element { lcdata = 1, locale, alias, region_alias, l10n, codeset, encoding, encoding_alias };
 
-// Each element within a locale or an encoding repeats that one's name in keys and in the event log. A long
-// name with many such elements would make far more of a file than its size: what is repeated is bounded.
+/// The most that a document may repeat of its names. Each element within a locale or an encoding repeats that
+/// one's name in keys and in the event log: a long name with many such elements would make far more of a file
+/// than its size.
 constexpr std::size_t most_repeated_bytes = std::size_t(16) << 20;
 
 } // namespace
