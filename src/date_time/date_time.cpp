@@ -45,6 +45,8 @@ ustring to_ustring(ptime const& time, std::string const& format) {
     return format.empty() ? ustring() : written(time, locale_for<output_facet>(format, format.c_str()));
 }
 
+// What Boost writes by itself is ASCII, and widened as it stands; a format string is the caller's, and what
+// it writes is checked.
 ustring to_ustring(ptime const& time, DateFormat format) {
     switch (format) {
     case DATE_FORMAT_SIMPLE:

@@ -10,6 +10,7 @@ void append(std::string& text, char separator, std::string_view part) {
     text += part;
 }
 
+/// An empty part leaves no separator behind: what is rendered can be parsed again.
 void append_unless_empty(std::string& text, char separator, std::string_view part) {
     if (!part.empty())
         append(text, separator, part);
