@@ -1,6 +1,6 @@
 #include "filesystem/directory/directory_entry_context.hpp"
 
-#include "filesystem/files/volume.hpp"
+#include "filesystem/files/volume_rules.hpp"
 #include "filesystem/primitives/error_number.hpp"
 #include "filesystem/primitives/utf8_name.hpp"
 #include "platform/platform.hpp"

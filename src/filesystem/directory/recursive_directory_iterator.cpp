@@ -1,7 +1,7 @@
 #include "filesystem/directory/directory_entry_context.hpp"
-#include "filesystem/directory/directory_queue.hpp"
 #include "filesystem/directory/dot_entry.hpp"
 #include "filesystem/directory/treatment.hpp"
+#include "filesystem/directory/tree_walk.hpp"
 
 #include <fl/filesystem/recursive_directory_iterator.hpp>
 

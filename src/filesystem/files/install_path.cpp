@@ -1,4 +1,4 @@
-#include "filesystem/files/volume.hpp"
+#include "filesystem/files/volume_rules.hpp"
 #include "platform/platform.hpp"
 #include "support/ascii.hpp"
 #include "support/once_value.hpp"

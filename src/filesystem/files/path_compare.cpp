@@ -1,5 +1,5 @@
 #include "filesystem/files/name_comparison.hpp"
-#include "filesystem/files/volume.hpp"
+#include "filesystem/files/volume_rules.hpp"
 #include "support/raise.hpp"
 
 #include <fl/filesystem/exceptions.hpp>

@@ -1,6 +1,5 @@
-#include "filesystem/files/temporary.hpp"
-
 #include "filesystem/files/random_token.hpp"
+#include "filesystem/files/temporary_steps.hpp"
 
 #include <fl/filesystem/exceptions.hpp>
 #include <fl/filesystem/file.hpp>

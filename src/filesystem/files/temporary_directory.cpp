@@ -1,4 +1,4 @@
-#include "filesystem/files/temporary.hpp"
+#include "filesystem/files/temporary_steps.hpp"
 #include "filesystem/primitives/error_number.hpp"
 #include "filesystem/primitives/utf8_name.hpp"
 #include "support/raise.hpp"

@@ -1,5 +1,5 @@
 #include "filesystem/files/random_token.hpp"
-#include "filesystem/files/temporary.hpp"
+#include "filesystem/files/temporary_steps.hpp"
 #include "support/failure.hpp"
 #include "support/rows.hpp"
 #include "support/temp_tree.hpp"

@@ -1,7 +1,6 @@
 #include "filesystem/files/stored_length.hpp"
-
 #include "filesystem/primitives/name_conversion.hpp"
-#include "filesystem/primitives/pathname_text.hpp"
+#include "filesystem/primitives/path_text.hpp"
 #include "text/characters/normalization.hpp"
 
 #include <fl/i18n/ctype_exceptions.hpp>

@@ -1,4 +1,4 @@
-#include "filesystem/directory/directory_queue.hpp"
+#include "filesystem/directory/tree_walk.hpp"
 
 #include "filesystem/primitives/error_number.hpp"
 

@@ -1,4 +1,4 @@
-#include "filesystem/primitives/pathname_text.hpp"
+#include "filesystem/primitives/path_text.hpp"
 #include "filesystem/primitives/utf8_name.hpp"
 #include "support/raise.hpp"
 

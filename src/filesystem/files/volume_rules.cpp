@@ -1,4 +1,4 @@
-#include "filesystem/files/volume.hpp"
+#include "filesystem/files/volume_rules.hpp"
 
 #include "filesystem/primitives/error_number.hpp"
 #include "platform/platform.hpp"
