@@ -2,8 +2,9 @@
 
 #include "filesystem/files/volume_rules.hpp"
 #include "filesystem/primitives/error_number.hpp"
-#include "filesystem/primitives/utf8_name.hpp"
+#include "filesystem/primitives/name_conversion.hpp"
 #include "platform/platform.hpp"
+#include "support/ascii.hpp"
 
 #include <fl/filesystem/file_status.hpp>
 #include <fl/filesystem/path.hpp>
@@ -24,7 +25,7 @@ void assign_text(ustring& text, std::string_view name) {
         text[i] = byte;
     }
     if (bits >= 0x80)
-        text = detail::name_from_utf8(name, detail::replacement_character);
+        text = detail::name_from_utf8(name, support::replacement_character);
 }
 
 } // namespace

@@ -1,7 +1,8 @@
 #include "filesystem/directory/open_directory.hpp"
 
-#include "filesystem/primitives/utf8_name.hpp"
+#include "filesystem/primitives/name_conversion.hpp"
 #include "platform/posix.hpp"
+#include "support/ascii.hpp"
 
 #include <algorithm>
 #include <cerrno>
@@ -45,7 +46,7 @@ int file_descriptor::release() noexcept {
 
 ustring const& open_directory::text() const {
     if (!text_)
-        text_ = name_from_utf8(node->path(), replacement_character);
+        text_ = name_from_utf8(node->path(), support::replacement_character);
     return *text_;
 }
 

@@ -1,15 +1,16 @@
-#include "filesystem/primitives/utf8_name.hpp"
+#include "filesystem/primitives/name_conversion.hpp"
+#include "support/ascii.hpp"
 
 #include <fl/filesystem/boost_path.hpp>
 
 namespace fl::filesystem {
 
 ustring to_ustring(boost::filesystem::path const& path) {
-    return detail::name_from_utf8(path.native(), detail::replacement_character);
+    return detail::name_from_utf8(path.native(), support::replacement_character);
 }
 
 ustring to_generic_ustring(boost::filesystem::path const& path) {
-    return detail::name_from_utf8(path.generic_string(), detail::replacement_character);
+    return detail::name_from_utf8(path.generic_string(), support::replacement_character);
 }
 
 ustring to_generic_ustring(boost::filesystem::path const& path,

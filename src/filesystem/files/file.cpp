@@ -1,5 +1,5 @@
 #include "filesystem/primitives/error_number.hpp"
-#include "filesystem/primitives/utf8_name.hpp"
+#include "filesystem/primitives/name_conversion.hpp"
 
 #include <fl/filesystem/file.hpp>
 

@@ -1,6 +1,7 @@
 #include "filesystem/files/temporary_steps.hpp"
 #include "filesystem/primitives/error_number.hpp"
-#include "filesystem/primitives/utf8_name.hpp"
+#include "filesystem/primitives/name_conversion.hpp"
+#include "support/ascii.hpp"
 #include "support/raise.hpp"
 
 #include <fl/filesystem/exceptions.hpp>
@@ -29,7 +30,7 @@ ustring environment_value(std::string const& name) {
 /// Throws what keeps temporary files out of a directory.
 void require_usable(ustring const& directory) {
     auto const refuse = [&](int error) {
-        detail::throw_errno(error, detail::name_to_utf8(directory, detail::replacement_character));
+        detail::throw_errno(error, detail::name_to_utf8(directory, support::replacement_character));
     };
     std::uint32_t const kind = status(directory).kind();
     if (kind == file_status::file_not_found)

@@ -4,6 +4,9 @@
 #include <fl/filesystem/file_status.hpp>
 
 #include <cerrno>
+#include <cstdlib>
+#include <filesystem>
+#include <memory>
 
 namespace fl::filesystem {
 namespace {
@@ -21,6 +24,24 @@ file_status status_by(stat_call call, ustring const& name) {
     if (error == ENOENT || error == ENOTDIR)
         return detail::missing_file_status();
     detail::throw_errno(error, bytes);
+}
+
+struct free_memory {
+    void operator()(char* memory) const noexcept { std::free(memory); }
+};
+
+ustring working_directory() {
+    std::error_code error;
+    std::filesystem::path const directory = std::filesystem::current_path(error);
+    if (error)
+        detail::throw_errno(error.value());
+    return detail::from_filesystem(directory.native());
+}
+
+ustring absolute_base(ustring const& base) {
+    if (detail::is_absolute(base))
+        return base;
+    return detail::concatenate_pathname(working_directory(), base, 1);
 }
 
 } // namespace
@@ -43,6 +64,22 @@ file_status symlink_status(upath const& path) {
 
 bool exists(upath const& path) {
     return status(path).kind() != file_status::file_not_found;
+}
+
+ustring absolute(ustring const& name, ustring const& base) {
+    if (detail::is_absolute(name))
+        return detail::make_native_form(name, 1);
+    return detail::make_native_form(detail::concatenate_pathname(absolute_base(base), name, 1), 1);
+}
+
+ustring canonical(ustring const& name, ustring const& base) {
+    if (name.empty())
+        detail::throw_errno(ENOENT);
+    std::string const bytes = detail::make_native_access_form(absolute(name, base), 1);
+    std::unique_ptr<char, free_memory> const resolved(::realpath(bytes.c_str(), nullptr));
+    if (!resolved)
+        detail::throw_errno(errno, bytes);
+    return detail::from_filesystem(resolved.get());
 }
 
 } // namespace fl::filesystem

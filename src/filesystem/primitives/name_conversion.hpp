@@ -1,4 +1,5 @@
-/// What all conversions of names by ICU share: lengths, and how the status is judged.
+/// Names between UTF-16 and UTF-8, and what all conversions of names by ICU share: lengths, and how the
+/// status is judged.
 #pragma once
 
 #include "support/icu_length.hpp"
@@ -11,10 +12,21 @@
 #include <unicode/utypes.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
 namespace fl::filesystem::detail {
+
+/// What stands for an unpaired surrogate or for bytes that are not UTF-8: nothing, `substitute_byte` in names
+/// that go to the system, or `support::replacement_character` in text that comes from there.
+inline constexpr std::int32_t no_substitution = -1;
+inline constexpr std::int32_t substitute_byte = 0x1A;
+
+/// Without a converter object. `substitution` is a code point. Both throw `FileNameTooLarge`, and without a
+/// substitution `CvtInvalidCharacter`.
+std::string name_to_utf8(std::u16string_view name, std::int32_t substitution);
+ustring name_from_utf8(std::string_view name, std::int32_t substitution);
 
 /// The text to show for a name: each byte as one unit if it is not UTF-8.
 ustring shown(std::string_view name);

@@ -1,5 +1,5 @@
+#include "filesystem/primitives/name_conversion.hpp"
 #include "filesystem/primitives/path_text.hpp"
-#include "filesystem/primitives/utf8_name.hpp"
 #include "support/raise.hpp"
 
 #include <fl/filesystem/exceptions.hpp>

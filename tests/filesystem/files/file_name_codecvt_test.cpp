@@ -1,4 +1,4 @@
-#include "filesystem/primitives/utf8_name.hpp"
+#include "filesystem/primitives/name_conversion.hpp"
 
 #include <fl/filesystem/exceptions.hpp>
 #include <fl/filesystem/file_name_codecvt.hpp>
