@@ -1,6 +1,7 @@
 #include "filesystem/files/name_comparison.hpp"
 #include "support/platform_double.hpp"
 #include "support/rows.hpp"
+#include "support/temp_tree.hpp"
 
 #include <fl/filesystem/exceptions.hpp>
 #include <fl/filesystem/path_compare.hpp>
@@ -61,4 +62,12 @@ TEST_F(PathCompareTest, AsksTheVolumeOfTheFirstOfTwoAbsoluteNames) {
     error = EACCES;
     EXPECT_THROW(compare(u"/a", u"/a"), AccessDenied);
     EXPECT_THROW(generate_character_handling_mask_from_volume(upath()), InvalidArgument);
+}
+
+TEST_F(PathCompareTest, TheVolumeSpellsTheNamesOfItsFiles) {
+    fl::testing::temp_tree const tree;
+    tree.file("sub/file");
+    EXPECT_EQ(get_pathname_from_volume(u"sub/file", tree.text(u"sub//../")), tree.text(u"sub/file"));
+    EXPECT_EQ(get_pathname_from_volume(upath(), upath(tree.text())), upath());
+    EXPECT_THROW(get_pathname_from_volume(u"no", tree.text()), PathNotFound);
 }
