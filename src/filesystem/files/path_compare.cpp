@@ -1,4 +1,3 @@
-#include "filesystem/files/name_comparison.hpp"
 #include "filesystem/files/volume_rules.hpp"
 #include "support/raise.hpp"
 

@@ -1,4 +1,4 @@
-#include "filesystem/files/stored_length.hpp"
+#include "filesystem/files/volume_rules.hpp"
 
 #include <fl/filesystem/path_validation.hpp>
 

@@ -1,4 +1,3 @@
-#include "filesystem/files/random_token.hpp"
 #include "filesystem/files/temporary_steps.hpp"
 
 #include <fl/filesystem/exceptions.hpp>
@@ -6,7 +5,12 @@
 #include <fl/filesystem/path.hpp>
 #include <fl/filesystem/temporary.hpp>
 
+#include <boost/filesystem/operations.hpp>
+#include <boost/uuid/random_generator.hpp>
+#include <boost/uuid/uuid_io.hpp>
+
 #include <cerrno>
+#include <exception>
 #include <string_view>
 
 namespace fl::filesystem {
@@ -35,6 +39,25 @@ std::FILE* no_file(ustring& out_name) noexcept {
 }
 
 } // namespace
+
+std::string detail::grouped_digits() {
+    return boost::filesystem::unique_path("%%%%-%%%%-%%%%-%%%%").string();
+}
+
+std::string detail::random_uuid() {
+    return boost::uuids::to_string(boost::uuids::random_generator()());
+}
+
+std::string detail::random_token(std::string (*source)(), std::string (*second_source)()) {
+    for (auto const draw : {source, second_source}) {
+        try {
+            return draw();
+        } catch (std::exception const&) {
+            // No entropy, or no way to it: a sandbox may close one and not the other.
+        }
+    }
+    return {};
+}
 
 std::FILE* detail::open_temporary(ustring& out_name, ustring const& dir, ustring const& prefix,
                                   ustring const& suffix, token_source const& tokens) {

@@ -14,6 +14,17 @@ namespace fl::filesystem::detail {
 /// one, `TempEnvNotSpecified` if there is none.
 ustring first_usable_directory(std::vector<ustring> const& candidates);
 
+/// 16 random hexadecimal digits in four groups. Throws where the system has no random numbers.
+std::string grouped_digits();
+
+/// A random UUID in its form of 36 characters. Throws likewise.
+std::string random_uuid();
+
+/// The random part of a name, in ASCII: what the first of the sources gives that doesn't throw; empty if both
+/// do.
+std::string random_token(std::string (*source)() = grouped_digits,
+                         std::string (*second_source)() = random_uuid);
+
 /// A source of tokens: each call gives another one, in ASCII, or an empty one if there are none.
 using token_source = std::function<std::string()>;
 

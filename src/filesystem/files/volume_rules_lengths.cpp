@@ -1,4 +1,6 @@
-#include "filesystem/files/stored_length.hpp"
+// How long a name is on a volume: the two ways in which volumes store names.
+
+#include "filesystem/files/volume_rules.hpp"
 #include "filesystem/primitives/name_conversion.hpp"
 #include "filesystem/primitives/path_text.hpp"
 #include "text/characters/normalization.hpp"

@@ -1,4 +1,4 @@
-#include "filesystem/files/name_comparison.hpp"
+#include "filesystem/files/volume_rules.hpp"
 #include "support/platform_double.hpp"
 #include "support/rows.hpp"
 #include "support/temp_tree.hpp"

@@ -1,4 +1,3 @@
-#include "filesystem/files/random_token.hpp"
 #include "filesystem/files/temporary_steps.hpp"
 #include "support/failure.hpp"
 #include "support/rows.hpp"
