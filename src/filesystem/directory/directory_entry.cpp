@@ -1,4 +1,4 @@
-#include "filesystem/directory/directory_entry_record.hpp"
+#include "filesystem/directory/directory_entry_context.hpp"
 #include "filesystem/primitives/error_number.hpp"
 #include "filesystem/primitives/stat_record.hpp"
 

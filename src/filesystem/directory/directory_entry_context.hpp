@@ -1,13 +1,40 @@
-/// The sources of a directory iterator's entries: all of a directory, or those that match.
+/// The current entry of a directory iterator, and the sources of its entries: all of a directory, or those
+/// that match.
 #pragma once
 
 #include "filesystem/directory/open_directory.hpp"
+#include "filesystem/directory/wildcard.hpp"
 
+#include <fl/filesystem/directory_iterator.hpp>
+#include <fl/i18n/simple_pattern_match.hpp>
 #include <fl/i18n/ustring.hpp>
 
 #include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
 
 namespace fl::filesystem {
+
+namespace detail {
+
+/// What a directory entry shows. Filled by the iterator; the strings grow to the longest name once and are
+/// then reused.
+struct directory_entry_record {
+    std::shared_ptr<open_directory const> directory;
+    std::string name;
+    ustring text; ///< the name as text
+    unsigned char type = DT_UNKNOWN;
+};
+
+/// True for "." and "..", which every directory has.
+inline bool is_dot_entry(std::u16string_view name) noexcept {
+    return name == upath_constant::CURRENT_DIRECTORY || name == upath_constant::PARENT_DIRECTORY;
+}
+
+} // namespace detail
 
 class directory_entry_context {
 public:
@@ -70,6 +97,24 @@ public:
         : directory_entry_context(std::move(directory)) {}
 
     bool step() override;
+};
+
+/// Filters by an expression, by the rules of the volume.
+class directory_entry_with_wc_support_context final : public directory_entry_context {
+public:
+    /// Throws `InvalidArgument` if ICU refuses the expression, unless `mode` accepts that.
+    directory_entry_with_wc_support_context(ustring const& directory, ustring const& expression,
+                                            initialization_mode mode);
+
+    bool step() override;
+
+private:
+    void open_matcher(ustring const& expression, std::optional<detail::wildcard> const& parsed,
+                      initialization_mode mode);
+    bool matches() const;
+
+    std::optional<detail::wildcard> wildcard_; // decides where it is there
+    fl::i18n::simple_pattern_match matcher_;
 };
 
 } // namespace fl::filesystem

@@ -1,7 +1,4 @@
 #include "filesystem/directory/directory_entry_context.hpp"
-#include "filesystem/directory/directory_entry_record.hpp"
-#include "filesystem/directory/dot_entry.hpp"
-#include "filesystem/directory/wildcard_context.hpp"
 #include "filesystem/primitives/error_number.hpp"
 #include "support/raise.hpp"
 

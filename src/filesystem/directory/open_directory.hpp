@@ -1,7 +1,5 @@
-/// A directory that is being read, and where it is.
+/// A directory that is being read, and where it lies in the tree that is walked.
 #pragma once
-
-#include "filesystem/directory/directory_node.hpp"
 
 #include <fl/i18n/ustring.hpp>
 
@@ -14,6 +12,31 @@
 #include <utility>
 
 namespace fl::filesystem::detail {
+
+/// A directory, by its way from the root of the walk. Children share their parent, so that a directory costs
+/// the memory of its name, however deep it lies; a path is put together when somebody asks for it.
+struct directory_node {
+    /// The root of a walk.
+    explicit directory_node(std::string absolute_path);
+    directory_node(std::shared_ptr<directory_node> parent_node, std::string own_name) noexcept
+        : parent(std::move(parent_node)),
+          name(std::move(own_name)) {}
+    directory_node(directory_node&&) = delete;
+    ~directory_node();
+
+    /// The absolute path, in bytes.
+    std::string path() const;
+
+    /// The absolute path of `name` in this directory.
+    std::string path_of(std::string_view name) const;
+
+    /// The names from below `ancestor` down to this one, with separators between; null stands for the
+    /// absolute path.
+    std::string path_below(directory_node const* ancestor) const;
+
+    std::shared_ptr<directory_node> parent; ///< null for the root
+    std::string name; ///< the absolute path for the root, without a separator at its end
+};
 
 /// The owner of a descriptor.
 class file_descriptor {

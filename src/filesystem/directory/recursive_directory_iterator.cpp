@@ -1,6 +1,4 @@
 #include "filesystem/directory/directory_entry_context.hpp"
-#include "filesystem/directory/dot_entry.hpp"
-#include "filesystem/directory/treatment.hpp"
 #include "filesystem/directory/tree_walk.hpp"
 
 #include <fl/filesystem/recursive_directory_iterator.hpp>

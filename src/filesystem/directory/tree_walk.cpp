@@ -1,6 +1,7 @@
 #include "filesystem/directory/tree_walk.hpp"
 
 #include "filesystem/primitives/error_number.hpp"
+#include "filesystem/primitives/stat_record.hpp"
 
 #include <algorithm>
 #include <cerrno>
@@ -16,7 +17,29 @@ file_descriptor duplicate(open_directory const& directory) noexcept {
     return file_descriptor(::fcntl(::dirfd(directory.handle.get()), F_DUPFD_CLOEXEC, 0));
 }
 
+treatment by_type(std::uint32_t type) noexcept {
+    switch (type) {
+    case file_status::file_type_unknown:
+        return treatment::drop;
+    case file_status::directory_file:
+        return treatment::show_and_visit;
+    default:
+        return treatment::show;
+    }
+}
+
 } // namespace
+
+treatment treatment_of(unsigned char type, int directory, char const* name) noexcept {
+    if (type != DT_DIR && type != DT_UNKNOWN)
+        return treatment::show;
+    struct stat status;
+    if (::fstatat(directory, name, &status, AT_SYMLINK_NOFOLLOW) == 0)
+        return by_type(type_of(status.st_mode));
+    if (errno == ENOENT || errno == EINVAL)
+        return treatment::drop;
+    return type == DT_DIR ? treatment::show_and_visit : treatment::show;
+}
 
 directory_queue::directory_queue(open_directory const& root) : root_{root.node, duplicate(root)} {
     if (!root_.descriptor.is_open())

@@ -1,4 +1,4 @@
-/// The directories that a walk has seen and not yet read.
+/// What a walk through a tree does with an entry, and the directories that it has seen and not yet read.
 #pragma once
 
 #include "filesystem/directory/open_directory.hpp"
@@ -6,6 +6,15 @@
 #include <deque>
 
 namespace fl::filesystem::detail {
+
+/// What a walk does with an entry.
+enum class treatment { drop, show, show_and_visit };
+
+/// For the entry `name` of the open directory, whose `d_type` is `type`. Asks the disk about directories and
+/// about entries of unknown type alone, since that takes longer than all the rest. An entry that is gone is
+/// dropped. Where the disk doesn't answer for another reason, the name is shown; and what the directory calls
+/// a directory is visited, so that the reason gets told.
+treatment treatment_of(unsigned char type, int directory, char const* name) noexcept;
 
 /// First in, first out. Names are bytes: as text, two directories could become the same. For one thread at a
 /// time.

@@ -1,6 +1,5 @@
-#include "filesystem/directory/directory_node.hpp"
 #include "filesystem/directory/open_directory.hpp"
-#include "filesystem/directory/treatment.hpp"
+#include "filesystem/directory/tree_walk.hpp"
 #include "platform/posix.hpp"
 #include "support/rows.hpp"
 #include "support/temp_tree.hpp"
