@@ -19,6 +19,7 @@
 #include <fl/filesystem/file_name_codecvt.hpp>
 #include <fl/filesystem/file_status.hpp>
 #include <fl/filesystem/install_path.hpp>
+#include <fl/filesystem/last_write_time.hpp>
 #include <fl/filesystem/path.hpp>
 #include <fl/filesystem/path_compare.hpp>
 #include <fl/filesystem/path_validation.hpp>

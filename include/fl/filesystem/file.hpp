@@ -3,7 +3,6 @@
 ///
 /// `fopen` and `freopen` mirror the C library: they report by `errno` and a null pointer, also where a name
 /// can't be converted, and but for what a conversion of the caller's throws they never throw for bad input.
-/// The other functions throw the classes of <fl/filesystem/exceptions.hpp>.
 ///
 ///     if (std::FILE* file = fl::filesystem::fopen(u"notes.txt", "r")) ...
 ///
@@ -16,7 +15,6 @@
 #include <fl/i18n/export.hpp>
 #include <fl/i18n/ustring.hpp>
 
-#include <boost/date_time/posix_time/posix_time_types.hpp>
 #include <boost/noncopyable.hpp>
 
 #include <cstdio>
@@ -51,14 +49,6 @@ FL_I18N_EXPORT std::FILE* freopen(ustring const& name, std::string const& mode, 
                                   fl::i18n::converter<char, char16_t> const& to_bytes);
 FL_I18N_EXPORT std::FILE* freopen(upath const& path, std::string const& mode, std::FILE* stream,
                                   fl::i18n::converter<char, char16_t> const& to_bytes);
-
-/// Sets the time of last modification (UTC, to the microsecond); the time of access stays.
-///
-/// Throws `InvalidArgument` for an empty path ("Empty Path not permitted") and for not-a-date-time ("Time is
-/// not a ptime"), the exceptions of `detail::make_native_access_form`, and the class of the system's `errno`
-/// value, which is `SystemError` for an infinite time. An exception of the system comes without the name.
-FL_I18N_EXPORT void last_write_time(ustring const& name, boost::posix_time::ptime const& time);
-FL_I18N_EXPORT void last_write_time(upath const& path, boost::posix_time::ptime const& time);
 
 /// A stream for reading a file by its narrow name, as `detail::make_native_access_form_i18n` gives it. As its
 /// base, but it can be neither copied nor moved.

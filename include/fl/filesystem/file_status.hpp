@@ -14,7 +14,7 @@
 #include <fl/i18n/export.hpp>
 #include <fl/i18n/ustring.hpp>
 
-#include <boost/date_time/posix_time/posix_time_types.hpp>
+#include <boost/date_time/posix_time/ptime.hpp>
 
 #include <cstdint>
 

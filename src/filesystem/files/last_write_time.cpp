@@ -4,7 +4,7 @@
 #include "support/unix_epoch.hpp"
 
 #include <fl/filesystem/exceptions.hpp>
-#include <fl/filesystem/file.hpp>
+#include <fl/filesystem/last_write_time.hpp>
 
 #include <cerrno>
 #include <cstdint>

@@ -1,8 +1,8 @@
 #include "support/temp_tree.hpp"
 
 #include <fl/filesystem/exceptions.hpp>
-#include <fl/filesystem/file.hpp>
 #include <fl/filesystem/file_status.hpp>
+#include <fl/filesystem/last_write_time.hpp>
 
 #include <boost/date_time/posix_time/posix_time.hpp>
 #include <gtest/gtest.h>
