@@ -28,8 +28,6 @@ namespace fl::filesystem {
 /// Root of the family. Thread-compatible: constant after construction.
 class FL_I18N_EXPORT FsysExceptionBase : public std::exception {
 public:
-    ~FsysExceptionBase() override;
-
     /// The error id, the same as `id()`. Valid as long as the object.
     char const* what() const noexcept override;
 
@@ -55,6 +53,10 @@ protected:
                       std::vector<ustring> const& arguments);
 
 private:
+    /// Each class overrides this out of line, so that one object file owns its virtual table and its type
+    /// information.
+    virtual void anchor() const;
+
     std::string id_;
     std::int32_t code_;
     std::string path_;
@@ -68,7 +70,6 @@ public:
     /// `message` is an English sentence in ASCII such as "Empty Path not permitted".
     explicit InvalidArgument(std::string message, ustring const& path = {},
                              std::vector<ustring> const& arguments = {});
-    ~InvalidArgument() override;
 
     /// Name of the argument; empty, since no operation names it.
     std::string const& argument() const noexcept { return argument_; }
@@ -77,6 +78,8 @@ public:
     std::string const& message() const noexcept { return message_; }
 
 private:
+    void anchor() const override;
+
     std::string argument_;
     std::string message_;
 };
@@ -84,99 +87,111 @@ private:
 /// A name longer than the system takes, `ENAMETOOLONG`, or a size above a signed 32-bit integer. Code 3.
 class FL_I18N_EXPORT FileNameTooLarge : public FsysExceptionBase {
 public:
-    explicit FileNameTooLarge(ustring const& path = {}, std::vector<ustring> const& arguments = {})
-        : FsysExceptionBase("fl:filesystem:FileNameTooLarge", 3, path, arguments) {}
-    ~FileNameTooLarge() override;
+    explicit FileNameTooLarge(ustring const& path = {}, std::vector<ustring> const& arguments = {});
+
+private:
+    void anchor() const override;
 };
 
 /// A name that couldn't be converted, for another reason than an invalid character. Code 4.
 class FL_I18N_EXPORT FileNameConversionFailure : public FsysExceptionBase {
 public:
-    explicit FileNameConversionFailure(ustring const& path = {}, std::vector<ustring> const& arguments = {})
-        : FsysExceptionBase("fl:filesystem:FileNameConversionFailure", 4, path, arguments) {}
-    ~FileNameConversionFailure() override;
+    explicit FileNameConversionFailure(ustring const& path = {}, std::vector<ustring> const& arguments = {});
+
+private:
+    void anchor() const override;
 };
 
 /// A name with an unpaired surrogate, or bytes that are not UTF-8. Not `fl::i18n::CvtInvalidCharacter`, which
 /// belongs to the conversion of text. Code 5.
 class FL_I18N_EXPORT CvtInvalidCharacter : public FsysExceptionBase {
 public:
-    explicit CvtInvalidCharacter(ustring const& path = {}, std::vector<ustring> const& arguments = {})
-        : FsysExceptionBase("fl:filesystem:CvtInvalidCharacter", 5, path, arguments) {}
-    ~CvtInvalidCharacter() override;
+    explicit CvtInvalidCharacter(ustring const& path = {}, std::vector<ustring> const& arguments = {});
+
+private:
+    void anchor() const override;
 };
 
 /// `EACCES`. Code 6.
 class FL_I18N_EXPORT AccessDenied : public FsysExceptionBase {
 public:
-    explicit AccessDenied(ustring const& path = {}, std::vector<ustring> const& arguments = {})
-        : FsysExceptionBase("fl:filesystem:AccessDenied", 6, path, arguments) {}
-    ~AccessDenied() override;
+    explicit AccessDenied(ustring const& path = {}, std::vector<ustring> const& arguments = {});
+
+private:
+    void anchor() const override;
 };
 
 /// `ENOENT`. Code 7.
 class FL_I18N_EXPORT PathNotFound : public FsysExceptionBase {
 public:
-    explicit PathNotFound(ustring const& path = {}, std::vector<ustring> const& arguments = {})
-        : FsysExceptionBase("fl:filesystem:PathNotFound", 7, path, arguments) {}
-    ~PathNotFound() override;
+    explicit PathNotFound(ustring const& path = {}, std::vector<ustring> const& arguments = {});
+
+private:
+    void anchor() const override;
 };
 
 /// `ENOTDIR`. Code 8.
 class FL_I18N_EXPORT NotDirectoryError : public FsysExceptionBase {
 public:
-    explicit NotDirectoryError(ustring const& path = {}, std::vector<ustring> const& arguments = {})
-        : FsysExceptionBase("fl:filesystem:NotDirectoryError", 8, path, arguments) {}
-    ~NotDirectoryError() override;
+    explicit NotDirectoryError(ustring const& path = {}, std::vector<ustring> const& arguments = {});
+
+private:
+    void anchor() const override;
 };
 
 /// `ENOTEMPTY`. Code 9.
 class FL_I18N_EXPORT DirectoryNotEmpty : public FsysExceptionBase {
 public:
-    explicit DirectoryNotEmpty(ustring const& path = {}, std::vector<ustring> const& arguments = {})
-        : FsysExceptionBase("fl:filesystem:DirectoryNotEmpty", 9, path, arguments) {}
-    ~DirectoryNotEmpty() override;
+    explicit DirectoryNotEmpty(ustring const& path = {}, std::vector<ustring> const& arguments = {});
+
+private:
+    void anchor() const override;
 };
 
 /// `EISDIR`. Code 10.
 class FL_I18N_EXPORT FileIsDirectory : public FsysExceptionBase {
 public:
-    explicit FileIsDirectory(ustring const& path = {}, std::vector<ustring> const& arguments = {})
-        : FsysExceptionBase("fl:filesystem:FileIsDirectory", 10, path, arguments) {}
-    ~FileIsDirectory() override;
+    explicit FileIsDirectory(ustring const& path = {}, std::vector<ustring> const& arguments = {});
+
+private:
+    void anchor() const override;
 };
 
 /// `EEXIST`. Code 11.
 class FL_I18N_EXPORT FileExistsError : public FsysExceptionBase {
 public:
-    explicit FileExistsError(ustring const& path = {}, std::vector<ustring> const& arguments = {})
-        : FsysExceptionBase("fl:filesystem:FileExistsError", 11, path, arguments) {}
-    ~FileExistsError() override;
+    explicit FileExistsError(ustring const& path = {}, std::vector<ustring> const& arguments = {});
+
+private:
+    void anchor() const override;
 };
 
 /// Two names that couldn't be compared by the rules of their volume. Code 12.
 class FL_I18N_EXPORT PathNameComparisonFailure : public FsysExceptionBase {
 public:
-    explicit PathNameComparisonFailure(ustring const& path = {}, std::vector<ustring> const& arguments = {})
-        : FsysExceptionBase("fl:filesystem:PathNameComparisonFailure", 12, path, arguments) {}
-    ~PathNameComparisonFailure() override;
+    explicit PathNameComparisonFailure(ustring const& path = {}, std::vector<ustring> const& arguments = {});
+
+private:
+    void anchor() const override;
 };
 
 /// Every `errno` value without a class of its own. Code 13.
 class FL_I18N_EXPORT SystemError : public FsysExceptionBase {
 public:
-    explicit SystemError(ustring const& path = {}, std::vector<ustring> const& arguments = {})
-        : FsysExceptionBase("fl:filesystem:SystemError", 13, path, arguments) {}
-    ~SystemError() override;
+    explicit SystemError(ustring const& path = {}, std::vector<ustring> const& arguments = {});
+
+private:
+    void anchor() const override;
 };
 
 /// No directory for temporary files is named anywhere. Code 14. Not thrown at present: "/tmp" is always
 /// tried.
 class FL_I18N_EXPORT TempEnvNotSpecified : public FsysExceptionBase {
 public:
-    explicit TempEnvNotSpecified(ustring const& path = {}, std::vector<ustring> const& arguments = {})
-        : FsysExceptionBase("fl:filesystem:TempEnvNotSpecified", 14, path, arguments) {}
-    ~TempEnvNotSpecified() override;
+    explicit TempEnvNotSpecified(ustring const& path = {}, std::vector<ustring> const& arguments = {});
+
+private:
+    void anchor() const override;
 };
 
 } // namespace fl::filesystem
