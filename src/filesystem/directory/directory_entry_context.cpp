@@ -18,7 +18,7 @@ namespace fl::filesystem {
 namespace {
 
 /// Puts the text of a name in the place of another. Nearly all names are ASCII: those are widened into the
-/// memory that is there.
+/// memory that is there, so that a walk allocates nothing for them.
 void assign_text(ustring& text, std::string_view name) {
     text.resize(name.size());
     unsigned char bits = 0;

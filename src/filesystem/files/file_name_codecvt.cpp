@@ -10,6 +10,8 @@ namespace {
 
 using fl::i18n::CvtCtx;
 
+/// A converter object, where `name_to_utf8` and its inverse do without one: it alone tells a character that
+/// the end of the text cuts off from text that is ill-formed, which are two exceptions here.
 std::unique_ptr<CvtCtx> open_utf8() {
     UErrorCode status = U_ZERO_ERROR;
     std::unique_ptr<UConverter, fl::i18n::lcctype::converter_close> converter(ucnv_open("UTF-8", &status));

@@ -1,10 +1,11 @@
+#include "filesystem/files/install_path_bytes.hpp"
 #include "filesystem/files/volume_rules.hpp"
+#include "filesystem/primitives/name_conversion.hpp"
 #include "platform/platform.hpp"
 #include "support/ascii.hpp"
 #include "support/once_value.hpp"
 
 #include <fl/filesystem/exceptions.hpp>
-#include <fl/filesystem/file_name_codecvt.hpp>
 #include <fl/filesystem/file_status.hpp>
 #include <fl/filesystem/install_path.hpp>
 #include <fl/filesystem/path.hpp>
@@ -55,12 +56,15 @@ std::string tree_root(std::string path, bool ignore_case) {
 }
 
 ustring find_install_path() {
-    static char const in_this_library = 0;
-    std::string const root = get_base_path(const_cast<char*>(&in_this_library));
-    return root.empty() ? ustring() : codecvt_filesystem_to_ustring(true).convert(root.data(), root.size());
+    return detail::name_from_utf8(detail::install_path_bytes(), support::replacement_character);
 }
 
 } // namespace
+
+std::string detail::install_path_bytes() {
+    static char const in_this_library = 0;
+    return get_base_path(const_cast<char*>(&in_this_library));
+}
 
 std::string get_base_path(void* address) {
     std::string const module = platform::current().module_path(address);
@@ -80,9 +84,7 @@ ustring get_install_path() {
 namespace fl::i18n::detail {
 
 ustring get_module_path_from_address(void* address) {
-    if (address == nullptr)
-        return {};
-    return utf8_to_ustring(platform::current().module_path(address));
+    return address ? utf8_to_ustring(platform::current().module_path(address)) : ustring();
 }
 
 } // namespace fl::i18n::detail

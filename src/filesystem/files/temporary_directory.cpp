@@ -8,10 +8,9 @@
 #include <fl/filesystem/file_status.hpp>
 #include <fl/filesystem/path.hpp>
 #include <fl/filesystem/temporary.hpp>
-#include <fl/i18n/string_conversion.hpp>
+#include <fl/i18n/environment.hpp>
 
 #include <cerrno>
-#include <cstdlib>
 #include <exception>
 #include <string_view>
 #include <unistd.h>
@@ -19,12 +18,11 @@
 namespace fl::filesystem {
 namespace {
 
-/// `fl::i18n::getenv` belongs to a layer above. Empty for a variable that is unset and for what can be no
-/// variable's name: of "A=b=c" in the environment, getenv(3) takes "A=b" for a name.
+/// Empty for a variable that is unset and for what can be no variable's name: of "A=b=c" in the environment,
+/// getenv(3) takes "A=b" for a name.
 ustring environment_value(std::string const& name) {
-    bool const is_name = name.find_first_of(std::string_view("=\0", 2)) == name.npos;
-    char const* const value = is_name ? std::getenv(name.c_str()) : nullptr;
-    return value != nullptr ? fl::i18n::utf8_to_ustring(value) : ustring();
+    bool const is_name = !name.empty() && name.find_first_of(std::string_view("=\0", 2)) == name.npos;
+    return is_name ? fl::i18n::getenv(name) : ustring();
 }
 
 /// Throws what keeps temporary files out of a directory.

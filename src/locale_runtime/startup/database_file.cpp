@@ -1,6 +1,7 @@
 #include "locale_runtime/startup/database_file.hpp"
 
-#include <fl/filesystem/install_path.hpp>
+#include "filesystem/files/install_path_bytes.hpp"
+
 #include <fl/filesystem/path.hpp>
 #include <fl/i18n/discovery_record.hpp>
 #include <fl/i18n/locale_context.hpp>
@@ -14,9 +15,7 @@ using paths = filesystem::detail::native_path_traits<char, char>;
 constexpr char const* title = "get_lcdata_path";
 
 std::string install_directory() {
-    static char const in_this_library = 0;
-    std::string const root =
-        paths::make_native_form(filesystem::get_base_path(const_cast<char*>(&in_this_library)));
+    std::string const root = paths::make_native_form(filesystem::detail::install_path_bytes());
     return root.empty() ? root : paths::concatenate_pathname(root, "bin");
 }
 
