@@ -65,8 +65,7 @@ bool directory_entry_context::read_raw() {
     if (!is_open())
         return false;
     errno = 0;
-    dirent const* const entry = ::readdir(directory_->handle.get());
-    if (entry != nullptr) {
+    if (dirent const* const entry = ::readdir(directory_->handle.get())) {
         raw_name_ = entry->d_name;
         type_ = entry->d_type;
         return true;

@@ -47,7 +47,7 @@ public:
     /// attempt might fail for ever.
     virtual bool step() = 0;
 
-    bool is_open() const noexcept { return directory_->handle != nullptr; }
+    bool is_open() const noexcept { return static_cast<bool>(directory_->handle); }
 
     /// The `errno` value of what failed in the constructor, or 0.
     int opening_error() const noexcept { return opening_error_; }

@@ -35,7 +35,7 @@ directory_node::directory_node(std::string absolute_path) : name(std::move(absol
         name.pop_back();
 }
 
-/// By a loop: a tree may be deeper than the stack.
+// By a loop: a tree may be deeper than the stack.
 directory_node::~directory_node() {
     while (parent && parent.use_count() == 1)
         parent = std::exchange(parent->parent, nullptr);

@@ -51,7 +51,7 @@ void directory_queue::push(open_directory const& parent, std::string_view name) 
     items_.push_back({parent.node, std::string(name)});
 }
 
-/// Without a descriptor to spare, the parent will be opened again.
+// Without a descriptor to spare, the parent will be opened again.
 void directory_queue::hold(open_directory const& parent) {
     bool const is_held = parent.node == root_.node || (!held_.empty() && held_.back().node == parent.node);
     if (is_held || held_.size() >= most_held)

@@ -59,7 +59,7 @@ void append_literal(ustring& expression, char16_t unit) {
     expression += unit;
 }
 
-// expression = "^" { star | literal } "$" | "^.*$"; star = "(.|\r)*"
+/// expression = "^" { star | literal } "$" | "^.*$"; star = "(.|\r)*"
 std::optional<wildcard> wildcard::parse(view expression) {
     wildcard result;
     if (expression == all_expression) {

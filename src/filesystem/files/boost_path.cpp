@@ -16,7 +16,7 @@ ustring to_generic_ustring(boost::filesystem::path const& path) {
 ustring to_generic_ustring(boost::filesystem::path const& path,
                            fl::i18n::converter<char16_t, char> const& from_bytes) {
     std::string const& name = path.generic_string();
-    return name.empty() ? ustring() : from_bytes.convert(name.data(), name.size());
+    return name.empty() ? ustring() : from_bytes.convert(name);
 }
 
 } // namespace fl::filesystem

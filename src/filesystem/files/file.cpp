@@ -61,7 +61,7 @@ std::FILE* open_path(upath const& path, std::string const& mode, Encode const& e
 }
 
 auto encoder(bytes_converter const& to_bytes) {
-    return [&to_bytes](ustring const& name) { return to_bytes.convert(name.data(), name.size()); };
+    return [&to_bytes](ustring const& name) { return to_bytes.convert(name); };
 }
 
 auto opener(std::string const& mode) {
@@ -96,25 +96,21 @@ std::FILE* fopen(upath const& path, std::string const& mode, bytes_converter con
 }
 
 std::FILE* freopen(ustring const& name, std::string const& mode, std::FILE* stream) {
-    return stream == nullptr ? refuse_null_stream()
-                             : open_text(name, mode, encode_built_in, reopener(mode, stream));
+    return stream ? open_text(name, mode, encode_built_in, reopener(mode, stream)) : refuse_null_stream();
 }
 
 std::FILE* freopen(upath const& path, std::string const& mode, std::FILE* stream) {
-    return stream == nullptr ? refuse_null_stream()
-                             : open_path(path, mode, encode_built_in, reopener(mode, stream));
+    return stream ? open_path(path, mode, encode_built_in, reopener(mode, stream)) : refuse_null_stream();
 }
 
 std::FILE* freopen(ustring const& name, std::string const& mode, std::FILE* stream,
                    bytes_converter const& to_bytes) {
-    return stream == nullptr ? refuse_null_stream()
-                             : open_text(name, mode, encoder(to_bytes), reopener(mode, stream));
+    return stream ? open_text(name, mode, encoder(to_bytes), reopener(mode, stream)) : refuse_null_stream();
 }
 
 std::FILE* freopen(upath const& path, std::string const& mode, std::FILE* stream,
                    bytes_converter const& to_bytes) {
-    return stream == nullptr ? refuse_null_stream()
-                             : open_path(path, mode, encoder(to_bytes), reopener(mode, stream));
+    return stream ? open_path(path, mode, encoder(to_bytes), reopener(mode, stream)) : refuse_null_stream();
 }
 
 } // namespace fl::filesystem

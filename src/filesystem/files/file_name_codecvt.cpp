@@ -10,8 +10,8 @@ namespace {
 
 using fl::i18n::CvtCtx;
 
-/// A converter object, where `name_to_utf8` and its inverse do without one: it alone tells a character that
-/// the end of the text cuts off from text that is ill-formed, which are two exceptions here.
+// A converter object, where `name_to_utf8` and its inverse do without one: it alone tells a character that
+// the end of the text cuts off from text that is ill-formed, which are two exceptions here.
 std::unique_ptr<CvtCtx> open_utf8() {
     UErrorCode status = U_ZERO_ERROR;
     std::unique_ptr<UConverter, fl::i18n::lcctype::converter_close> converter(ucnv_open("UTF-8", &status));
@@ -35,13 +35,13 @@ std::unique_ptr<CvtCtx> open_towards_text(bool tolerate) {
 }
 
 template <class From>
-std::basic_string_view<From> source_view(From const* src, unsigned long src_len) noexcept {
-    return src != nullptr ? std::basic_string_view<From>(src, src_len) : std::basic_string_view<From>();
+std::basic_string_view<From> source_view(From const* src, std::size_t src_len) noexcept {
+    return src ? std::basic_string_view<From>(src, src_len) : std::basic_string_view<From>();
 }
 
 /// ICU's call for the direction that its argument types tell, as `convert_name` takes it.
 auto call_of(CvtCtx const& context) {
-    if (context.handle() == nullptr)
+    if (!context.handle())
         support::raise(FileNameConversionFailure());
     return [converter = context.handle()]<class To, class From>(
                To* dst, std::int32_t capacity, From const* src, std::int32_t length, UErrorCode* status) {
@@ -53,13 +53,12 @@ auto call_of(CvtCtx const& context) {
 }
 
 template <class To, class From>
-std::basic_string<To> whole(CvtCtx const& context, From const* src, unsigned long src_len) {
+std::basic_string<To> whole(CvtCtx const& context, From const* src, std::size_t src_len) {
     return detail::converted_name<To>(source_view(src, src_len), call_of(context));
 }
 
 template <class To, class From>
-unsigned long into(CvtCtx const& context, To* dst, unsigned long dst_len, From const* src,
-                   unsigned long src_len) {
+std::size_t into(CvtCtx const& context, To* dst, std::size_t dst_len, From const* src, std::size_t src_len) {
     return detail::convert_name(dst, dst_len, source_view(src, src_len), call_of(context));
 }
 

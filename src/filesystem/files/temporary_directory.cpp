@@ -1,3 +1,5 @@
+// Where temporary files go: the directories that the environment names, and which of them will do.
+
 #include "filesystem/files/temporary_steps.hpp"
 #include "filesystem/primitives/error_number.hpp"
 #include "filesystem/primitives/name_conversion.hpp"

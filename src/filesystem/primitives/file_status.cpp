@@ -14,7 +14,7 @@ namespace {
 using stat_call = int (*)(char const*, struct stat*);
 
 file_status status_by(stat_call call, ustring const& name) {
-    if (name.find(u'\0') != name.npos)
+    if (name.find(u'\0') != name.npos) // the system would see the name up to there, and tell of another file
         return detail::missing_file_status();
     std::string const bytes = detail::make_native_access_form(name, 1);
     struct stat record;

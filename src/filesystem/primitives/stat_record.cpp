@@ -10,7 +10,7 @@ namespace {
 
 using boost::posix_time::ptime;
 
-/// A file may carry any 64-bit second; `ptime` ends at the years 1400 and 9999.
+/// To an infinity where `ptime` ends, at the years 1400 and 9999: a file may carry any 64-bit second.
 ptime to_ptime(std::timespec const& time) {
     static constexpr std::int64_t year_1400 = -17'987'443'200;
     static constexpr std::int64_t year_10000 = 253'402'300'800;
