@@ -14,14 +14,14 @@ namespace fl::filesystem {
 
 /// The native name of the path, read as UTF-8. Bytes that are not UTF-8 become U+FFFD; a name longer than a
 /// signed 32-bit integer counts throws `FileNameTooLarge`.
-FL_I18N_EXPORT ustring to_ustring(boost::filesystem::path const& path);
+[[nodiscard]] FL_I18N_EXPORT ustring to_ustring(boost::filesystem::path const& path);
 
 /// The same for the path's generic form, with "/" as separator.
-FL_I18N_EXPORT ustring to_generic_ustring(boost::filesystem::path const& path);
+[[nodiscard]] FL_I18N_EXPORT ustring to_generic_ustring(boost::filesystem::path const& path);
 
 /// The generic form, converted by `from_bytes`, whose exceptions pass through. An empty path gives an empty
 /// result without asking it.
-FL_I18N_EXPORT ustring to_generic_ustring(boost::filesystem::path const& path,
-                                          fl::i18n::converter<char16_t, char> const& from_bytes);
+[[nodiscard]] FL_I18N_EXPORT ustring to_generic_ustring(
+    boost::filesystem::path const& path, fl::i18n::converter<char16_t, char> const& from_bytes);
 
 } // namespace fl::filesystem

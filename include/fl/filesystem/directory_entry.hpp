@@ -32,22 +32,22 @@ struct directory_entry_record;
 class FL_I18N_EXPORT upath_directory_entry {
 public:
     /// The directory, absolute and in native form.
-    ustring pathname() const;
+    [[nodiscard]] ustring pathname() const;
 
     /// The name in the directory, never empty and without a separator; of any length. The reference lives as
     /// long as this entry, but its text changes when the iterator advances.
-    ustring const& filename() const noexcept;
+    [[nodiscard]] ustring const& filename() const noexcept;
 
     /// A second name of the same file. Empty: this system has none.
-    ustring alternative_filename() const;
+    [[nodiscard]] ustring alternative_filename() const;
 
     /// Directory, one separator and name. Not for opening if a part of it is not UTF-8 on disk.
-    ustring full_pathname() const;
+    [[nodiscard]] ustring full_pathname() const;
 
     /// The type of the entry itself, one of the constants of `file_status` up to `socket_file`. What the
     /// directory said when it was read, without asking the disk; where a directory doesn't keep types, the
     /// type of `symlink_status`.
-    std::uint32_t type() const;
+    [[nodiscard]] std::uint32_t type() const;
 
     /// The status of the file, symbolic links followed (stat(2)). `file_not_found` if it is gone, as for a
     /// dangling link. Other failures of the system throw the class of their `errno` value: a loop of links
@@ -57,20 +57,20 @@ public:
     /// Asks below the open directory while the iterator reads it, so that the length of the path doesn't
     /// matter and a directory renamed meanwhile stays the same one; later by path, when a path longer than
     /// the system takes throws `FileNameTooLarge`.
-    file_status status() const;
+    [[nodiscard]] file_status status() const;
 
     /// The same, but of a symbolic link itself (lstat(2)).
-    file_status symlink_status() const;
+    [[nodiscard]] file_status symlink_status() const;
 
     /// The type of the file, links followed: that of `status`, `file_not_found` included.
-    std::uint32_t target_type() const;
+    [[nodiscard]] std::uint32_t target_type() const;
 
     /// The same without a check that the file still exists: asks the disk for a symbolic link only, and
     /// otherwise answers as `type`.
-    std::uint32_t target_type_without_validation() const;
+    [[nodiscard]] std::uint32_t target_type_without_validation() const;
 
     /// A copy with a record of its own, which stays as it is when the iterator advances.
-    upath_directory_entry snapshot() const;
+    [[nodiscard]] upath_directory_entry snapshot() const;
 
 private:
     friend class detail::upath_directory_iterator_impl;

@@ -69,16 +69,16 @@ public:
     void increment();
 
     /// False at the end.
-    bool is_open() const noexcept;
+    [[nodiscard]] bool is_open() const noexcept;
 
     /// Makes the entry show what `context` has read last; at the end of that, an empty name.
     void fill_entry(directory_entry_context const* context);
 
     /// The current entry, at the end the last one.
-    upath_directory_entry const& entry() const noexcept { return entry_; }
+    [[nodiscard]] upath_directory_entry const& entry() const noexcept { return entry_; }
 
     /// The source of the entries.
-    directory_entry_context const& context() const noexcept { return *context_; }
+    [[nodiscard]] directory_entry_context const& context() const noexcept { return *context_; }
 
 private:
     std::unique_ptr<directory_entry_context> context_;
@@ -147,7 +147,7 @@ public:
 
     /// The current entry, the same object for the life of the iterator and its copies. Throws
     /// `InvalidArgument` at the end.
-    reference dereference() const {
+    [[nodiscard]] reference dereference() const {
         if (is_at_end())
             detail::throw_invalid_operation_exception();
         return impl_->entry();
@@ -162,7 +162,7 @@ public:
     }
 
     /// True for copies of one iterator, and for any two at their end.
-    bool equal(basic_directory_iterator const& other) const noexcept {
+    [[nodiscard]] bool equal(basic_directory_iterator const& other) const noexcept {
         return is_at_end() ? other.is_at_end() : impl_ == other.impl_;
     }
 
@@ -190,7 +190,7 @@ public:
     /// @}
 
     /// What copies share, null for the end that was made as such.
-    std::shared_ptr<Impl> const& impl() const noexcept { return impl_; }
+    [[nodiscard]] std::shared_ptr<Impl> const& impl() const noexcept { return impl_; }
 
 private:
     bool is_at_end() const noexcept { return !impl_ || !impl_->is_open(); }

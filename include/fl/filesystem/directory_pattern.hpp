@@ -29,10 +29,10 @@ public:
     virtual ~pattern_string_context();
 
     /// The file name part as the user wrote it, "*.txt".
-    ustring const& filename() const noexcept { return filename_; }
+    [[nodiscard]] ustring const& filename() const noexcept { return filename_; }
 
     /// The expression that names are matched with.
-    ustring const& expression() const noexcept { return expression_; }
+    [[nodiscard]] ustring const& expression() const noexcept { return expression_; }
 
 private:
     ustring filename_;
@@ -43,7 +43,7 @@ private:
 class FL_I18N_EXPORT kestrune_pattern_string_generator {
 public:
     /// `filename` with `detail::generate_pattern_from_filename` of it.
-    pattern_string_context operator()(ustring const& filename) const;
+    [[nodiscard]] pattern_string_context operator()(ustring const& filename) const;
 };
 
 namespace detail {
@@ -56,7 +56,7 @@ namespace detail {
 /// For use outside the directory iterators: a backtracking matcher tries each carriage return of a text in
 /// two ways, and so takes time exponential in their number when the match fails. The iterators read
 /// expressions of this form themselves, and don't.
-FL_I18N_EXPORT ustring generate_pattern_from_filename(
+[[nodiscard]] FL_I18N_EXPORT ustring generate_pattern_from_filename(
     ustring const& filename, kestrune_pattern_string_generator const& generator = {});
 
 } // namespace detail

@@ -32,21 +32,21 @@ public:
     char const* what() const noexcept override;
 
     /// The error id, "fl:filesystem:" and the name of the class.
-    std::string const& id() const noexcept { return id_; }
+    [[nodiscard]] std::string const& id() const noexcept { return id_; }
 
     /// A number for each class, from 1.
-    std::int32_t code() const noexcept { return code_; }
+    [[nodiscard]] std::int32_t code() const noexcept { return code_; }
 
     /// The file name at fault in UTF-8, empty if none is known. Text for people, which may not open the file:
     /// an unpaired surrogate of the name has become U+FFFD, and of a name in bytes that is not UTF-8 each
     /// byte has become the character of that number.
-    std::string const& path() const noexcept { return path_; }
+    [[nodiscard]] std::string const& path() const noexcept { return path_; }
 
     /// Further arguments in UTF-8: the second name of an operation on two files.
-    std::vector<std::string> const& arguments() const noexcept { return arguments_; }
+    [[nodiscard]] std::vector<std::string> const& arguments() const noexcept { return arguments_; }
 
     /// Always 0.
-    std::int64_t value() const noexcept { return value_; }
+    [[nodiscard]] std::int64_t value() const noexcept { return value_; }
 
 protected:
     FsysExceptionBase(char const* id, std::int32_t code, ustring const& path,
@@ -72,10 +72,10 @@ public:
                              std::vector<ustring> const& arguments = {});
 
     /// Name of the argument; empty, since no operation names it.
-    std::string const& argument() const noexcept { return argument_; }
+    [[nodiscard]] std::string const& argument() const noexcept { return argument_; }
 
     /// What is wrong with it, in English.
-    std::string const& message() const noexcept { return message_; }
+    [[nodiscard]] std::string const& message() const noexcept { return message_; }
 
 private:
     void anchor() const override;

@@ -28,17 +28,17 @@ namespace fl::filesystem {
 /// Null on failure, with `errno`: `EINVAL` for a name that is empty or holds a zero unit, and for such a
 /// mode; `EISDIR` for a `ustring` that ends in a separator; else what fopen(3) sets. An unpaired surrogate
 /// goes to the system as the byte 26 (U+001A).
-FL_I18N_EXPORT std::FILE* fopen(ustring const& name, std::string const& mode);
-FL_I18N_EXPORT std::FILE* fopen(upath const& path, std::string const& mode);
+[[nodiscard]] FL_I18N_EXPORT std::FILE* fopen(ustring const& name, std::string const& mode);
+[[nodiscard]] FL_I18N_EXPORT std::FILE* fopen(upath const& path, std::string const& mode);
 
 /// The same with the caller's conversion from name to bytes. A name that it refuses gives `ENAMETOOLONG` if
 /// the size is the reason, otherwise `ENOENT`; out of memory gives `ENOMEM`. `EINVAL` if a zero byte comes
 /// out. Other exceptions pass through, and so do those that have no `errno` value here: `FileIsDirectory`,
 /// `PathNameComparisonFailure` and `TempEnvNotSpecified`.
-FL_I18N_EXPORT std::FILE* fopen(ustring const& name, std::string const& mode,
-                                fl::i18n::converter<char, char16_t> const& to_bytes);
-FL_I18N_EXPORT std::FILE* fopen(upath const& path, std::string const& mode,
-                                fl::i18n::converter<char, char16_t> const& to_bytes);
+[[nodiscard]] FL_I18N_EXPORT std::FILE* fopen(ustring const& name, std::string const& mode,
+                                              fl::i18n::converter<char, char16_t> const& to_bytes);
+[[nodiscard]] FL_I18N_EXPORT std::FILE* fopen(upath const& path, std::string const& mode,
+                                              fl::i18n::converter<char, char16_t> const& to_bytes);
 
 /// Opens the file in the place of `stream`'s, by freopen(3), with the failures of `fopen`. A null `stream`
 /// gives `EINVAL` before anything else. Where a name or mode is refused here, `stream` stays open; a failure

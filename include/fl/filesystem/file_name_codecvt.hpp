@@ -3,7 +3,7 @@
 /// of what happens at ill-formed text.
 ///
 ///     codecvt_ustring_to_filesystem strict(false);
-///     std::string const bytes = strict.convert(name.data(), name.size());
+///     std::string const bytes = strict.convert(name);
 ///
 /// All four classes convert between UTF-16 and UTF-8, never the locale's encoding; the classes for narrow
 /// strings serve text that goes with names but is none itself. They are told at construction whether they are

@@ -50,31 +50,31 @@ struct file_status {
     std::uint64_t size = 0; ///< in bytes
 
     /// The type without bits outside `file_type_mask`: one of the values above.
-    std::uint32_t kind() const noexcept { return type & file_type_mask; }
+    [[nodiscard]] std::uint32_t kind() const noexcept { return type & file_type_mask; }
 };
 
 /// The status of the file behind `name`, symbolic links followed (stat(2)). Where there is no such file the
 /// type is `file_not_found`: an empty name, a name with a zero unit, a missing component (`ENOENT`), a
 /// component that is no directory (`ENOTDIR`), a dangling link. Other failures throw, a loop of links
 /// (`ELOOP`) as `SystemError`.
-FL_I18N_EXPORT file_status status(ustring const& name);
-FL_I18N_EXPORT file_status status(upath const& path);
+[[nodiscard]] FL_I18N_EXPORT file_status status(ustring const& name);
+[[nodiscard]] FL_I18N_EXPORT file_status status(upath const& path);
 
 /// The same, but of a symbolic link itself (lstat(2)).
-FL_I18N_EXPORT file_status symlink_status(ustring const& name);
-FL_I18N_EXPORT file_status symlink_status(upath const& path);
+[[nodiscard]] FL_I18N_EXPORT file_status symlink_status(ustring const& name);
+[[nodiscard]] FL_I18N_EXPORT file_status symlink_status(upath const& path);
 
 /// True unless `status(path)` is `file_not_found`; throws what `status` throws.
-FL_I18N_EXPORT bool exists(upath const& path);
+[[nodiscard]] FL_I18N_EXPORT bool exists(upath const& path);
 
 /// The native form of `name` if it is absolute, otherwise of `base` and `name` joined. An empty `base` is the
 /// working directory, a relative one is relative to it. Text only: "..", links and missing files stay as they
 /// are. An empty `name` gives the base. Throws only for what is wrong with the working directory.
-FL_I18N_EXPORT ustring absolute(ustring const& name, ustring const& base);
+[[nodiscard]] FL_I18N_EXPORT ustring absolute(ustring const& name, ustring const& base);
 
 /// The absolute name of the file behind `absolute(name, base)` without links, "." and ".." (realpath(3)).
 /// Throws `PathNotFound` for an empty name or a missing file, `NotDirectoryError`, `InvalidArgument` for a
 /// zero unit, and `CvtInvalidCharacter` where the resolved name is not UTF-8.
-FL_I18N_EXPORT ustring canonical(ustring const& name, ustring const& base);
+[[nodiscard]] FL_I18N_EXPORT ustring canonical(ustring const& name, ustring const& base);
 
 } // namespace fl::filesystem

@@ -24,12 +24,12 @@ namespace fl::filesystem {
 /// there is no such module, or where it doesn't lie below "bin/PLATFORM". The two names compare without ASCII
 /// case on a volume that ignores case, or whose properties can't be read. A root at the top of the disk is
 /// "/".
-FL_I18N_EXPORT std::string get_base_path(void* address);
+[[nodiscard]] FL_I18N_EXPORT std::string get_base_path(void* address);
 
 /// `get_base_path` for this library, computed at the first call and then the same for the whole process.
 /// Bytes that are not UTF-8 become U+FFFD. An exception reaches the caller, and the next call tries again;
 /// while one thread computes, others wait.
-FL_I18N_EXPORT ustring get_install_path();
+[[nodiscard]] FL_I18N_EXPORT ustring get_install_path();
 
 } // namespace fl::filesystem
 
@@ -37,6 +37,6 @@ namespace fl::i18n::detail {
 
 /// The full name of the module that holds `address`. Empty for a null address, or if no module holds it.
 /// Bytes that are not UTF-8 become U+FFFD.
-FL_I18N_EXPORT ustring get_module_path_from_address(void* address);
+[[nodiscard]] FL_I18N_EXPORT ustring get_module_path_from_address(void* address);
 
 } // namespace fl::i18n::detail

@@ -46,11 +46,11 @@ public:
           form_(form) {}
 
     /// The text, as it was given. The reference lives as long as the path stays unchanged.
-    string_type const& string() const& noexcept { return text_; }
-    string_type string() && noexcept { return std::move(text_); }
+    [[nodiscard]] string_type const& string() const& noexcept { return text_; }
+    [[nodiscard]] string_type string() && noexcept { return std::move(text_); }
 
-    std::uint32_t form() const noexcept { return form_; }
-    bool empty() const noexcept { return text_.empty(); }
+    [[nodiscard]] std::uint32_t form() const noexcept { return form_; }
+    [[nodiscard]] bool empty() const noexcept { return text_.empty(); }
 
     /// Appends components, as `concatenate_pathname` joins them: "a" / "b" is "a/b", "" / "b" is "b".
     basic_path& operator/=(std::basic_string_view<Char> components) {
@@ -88,53 +88,55 @@ namespace detail {
 /// The name with each run of separators made one and without a separator at its end. "/" stays "/", "//"
 /// becomes "/"; the result is empty only for an empty name, and is its own native form. "." and ".." stay.
 /// `form` takes the flag of a path; this system has one form, so it decides nothing.
-FL_I18N_EXPORT ustring make_native_form(ustring name, int form = 1);
+[[nodiscard]] FL_I18N_EXPORT ustring make_native_form(ustring name, int form = 1);
 
 /// `first` and `second` with one separator between them, however many they bring at the seam: "a/" and "/b"
 /// give "a/b", "/" and "b" give "/b". If one of them is empty, the result is the other one. A `second` of
 /// nothing but separators counts as empty if there is a `first`. The rest of both stays as it is; `form`
 /// decides nothing.
-FL_I18N_EXPORT ustring concatenate_pathname(ustring first, std::u16string_view second, int form = 1);
+[[nodiscard]] FL_I18N_EXPORT ustring concatenate_pathname(ustring first, std::u16string_view second,
+                                                          int form = 1);
 
 /// The last component: "c.txt" for "a/b/c.txt". Separators behind it are skipped. "." and ".." are components
 /// like others; an empty name and "/" have none and give an empty result.
-FL_I18N_EXPORT ustring extract_filename(std::u16string_view name);
+[[nodiscard]] FL_I18N_EXPORT ustring extract_filename(std::u16string_view name);
 
 /// The last component up to the last dot: "c.tar" for "a/c.tar.gz". A dot at its beginning doesn't count, so
 /// that ".profile", "." and ".." are stems as a whole.
-FL_I18N_EXPORT ustring extract_stem(std::u16string_view name);
+[[nodiscard]] FL_I18N_EXPORT ustring extract_stem(std::u16string_view name);
 
 /// What `extract_stem` leaves of the last component, its dot included: ".gz", "." for "c.", or empty.
-FL_I18N_EXPORT ustring extract_extension(std::u16string_view name);
+[[nodiscard]] FL_I18N_EXPORT ustring extract_extension(std::u16string_view name);
 
 /// True if the name begins with a separator.
-FL_I18N_EXPORT bool is_absolute(std::u16string_view name) noexcept;
+[[nodiscard]] FL_I18N_EXPORT bool is_absolute(std::u16string_view name) noexcept;
 
 /// The name in UTF-8. An unpaired surrogate throws `CvtInvalidCharacter`; a name whose length or result
 /// exceeds a signed 32-bit integer, `FileNameTooLarge`. Zero units pass.
-FL_I18N_EXPORT std::string to_filesystem(std::u16string_view name);
+[[nodiscard]] FL_I18N_EXPORT std::string to_filesystem(std::u16string_view name);
 
 /// The name in UTF-16. Bytes that are not UTF-8 throw `CvtInvalidCharacter`; sizes are limited as for
 /// `to_filesystem`, whose inverse this is.
-FL_I18N_EXPORT ustring from_filesystem(std::string_view name);
+[[nodiscard]] FL_I18N_EXPORT ustring from_filesystem(std::string_view name);
 
 /// The form of a narrow name that a system call takes: on this system the name itself. A name with a zero
 /// byte has no such form, since the system would read only what stands before it: throws `InvalidArgument`.
-FL_I18N_EXPORT std::string make_access_form(std::string name);
+[[nodiscard]] FL_I18N_EXPORT std::string make_access_form(std::string name);
 
 /// `make_native_form`, `to_filesystem` and `make_access_form` in turn, with their exceptions: what a system
 /// call takes for this name.
-FL_I18N_EXPORT std::string make_native_access_form(ustring name, int form = 1);
+[[nodiscard]] FL_I18N_EXPORT std::string make_native_access_form(ustring name, int form = 1);
 
 /// The same with "." and ".." resolved as text: "/a/./b/../c" gives "/a/c", "/.." gives "/", "a/.." gives
 /// ".", "../a" stays. Symbolic links are not seen: where "b" is one, the result may name another file.
-FL_I18N_EXPORT std::string make_native_access_form_with_cleanup(ustring const& name, int form = 1);
+[[nodiscard]] FL_I18N_EXPORT std::string make_native_access_form_with_cleanup(ustring const& name,
+                                                                              int form = 1);
 
 /// `make_native_access_form(name, 1)`.
-FL_I18N_EXPORT std::string make_native_access_form_i18n(ustring name);
+[[nodiscard]] FL_I18N_EXPORT std::string make_native_access_form_i18n(ustring name);
 
 /// `make_native_access_form_with_cleanup(name, 1)`.
-FL_I18N_EXPORT std::string make_native_access_form_with_cleanup_i18n(ustring const& name);
+[[nodiscard]] FL_I18N_EXPORT std::string make_native_access_form_with_cleanup_i18n(ustring const& name);
 
 /// Throws `InvalidArgument`: an iterator was used past its end.
 [[noreturn]] FL_I18N_EXPORT void throw_invalid_operation_exception();
@@ -146,10 +148,10 @@ struct path_traits;
 /// What `upath` needs.
 template <>
 struct path_traits<char, char16_t> {
-    static ustring make_native_form(ustring name, int form) {
+    [[nodiscard]] static ustring make_native_form(ustring name, int form) {
         return detail::make_native_form(std::move(name), form);
     }
-    static ustring concatenate_pathname(ustring first, std::u16string_view second, int form) {
+    [[nodiscard]] static ustring concatenate_pathname(ustring first, std::u16string_view second, int form) {
         return detail::concatenate_pathname(std::move(first), second, form);
     }
 };
@@ -157,7 +159,7 @@ struct path_traits<char, char16_t> {
 /// UTF-16 alone.
 template <>
 struct path_traits<char16_t, char16_t> {
-    static ustring make_native_form(ustring name, int form) {
+    [[nodiscard]] static ustring make_native_form(ustring name, int form) {
         return detail::make_native_form(std::move(name), form);
     }
 };
@@ -165,13 +167,14 @@ struct path_traits<char16_t, char16_t> {
 /// Narrow text: each function means what its namesake for UTF-16 means. Bytes need not be UTF-8.
 template <>
 struct FL_I18N_EXPORT path_traits<char, char> {
-    static std::string make_native_form(std::string name, int form = 1);
-    static std::string concatenate_pathname(std::string first, std::string_view second, int form = 1);
-    static std::string extract_filename(std::string_view name);
+    [[nodiscard]] static std::string make_native_form(std::string name, int form = 1);
+    [[nodiscard]] static std::string concatenate_pathname(std::string first, std::string_view second,
+                                                          int form = 1);
+    [[nodiscard]] static std::string extract_filename(std::string_view name);
 
     /// The name without its last component and the separator before it: "/a/b" gives "/a". The separator of
     /// the root stays, "/a" gives "/"; "a", "/" and an empty name give an empty result.
-    static std::string remove_filename(std::string_view name);
+    [[nodiscard]] static std::string remove_filename(std::string_view name);
 };
 
 template <class SystemChar, class Char>
@@ -186,7 +189,9 @@ struct pathname_traits;
 
 template <>
 struct pathname_traits<char16_t> {
-    static std::string to_filesystem(std::u16string_view name) { return detail::to_filesystem(name); }
+    [[nodiscard]] static std::string to_filesystem(std::u16string_view name) {
+        return detail::to_filesystem(name);
+    }
 };
 
 } // namespace detail

@@ -39,27 +39,27 @@ namespace fl::filesystem {
 /// An empty name stands before all others, and with one no volume is read. A relative name throws
 /// `InvalidArgument` ("Path must be absolute"), a volume that can't be read the exception of its `errno`
 /// value.
-FL_I18N_EXPORT std::int32_t compare(ustring const& a, ustring const& b);
-FL_I18N_EXPORT std::int32_t compare(upath const& a, upath const& b);
+[[nodiscard]] FL_I18N_EXPORT std::int32_t compare(ustring const& a, ustring const& b);
+[[nodiscard]] FL_I18N_EXPORT std::int32_t compare(upath const& a, upath const& b);
 
 /// Compares two names of any kind as they stand, without a look at the disk. An empty name stands before all
 /// others, whatever the mode. Otherwise throws `InvalidArgument` for a mode other than 0 with none of the
 /// bits of the table ("Specified character handling mask not valid") and where 2 and 16 meet ("Invalid mask
 /// specified").
-FL_I18N_EXPORT std::int32_t compare(ustring const& a, ustring const& b,
-                                    fl::i18n::character_handling_mode_context const& mode);
-FL_I18N_EXPORT std::int32_t compare(upath const& a, upath const& b,
-                                    fl::i18n::character_handling_mode_context const& mode);
+[[nodiscard]] FL_I18N_EXPORT std::int32_t compare(ustring const& a, ustring const& b,
+                                                  fl::i18n::character_handling_mode_context const& mode);
+[[nodiscard]] FL_I18N_EXPORT std::int32_t compare(upath const& a, upath const& b,
+                                                  fl::i18n::character_handling_mode_context const& mode);
 
 /// The rules of the volume with the existing file `path`: 0, or made of 1, 6 and 16; on Linux, whose volumes
 /// don't tell, 0. Throws `InvalidArgument` for an empty path ("Empty Path not permitted") and for a zero
 /// unit, `CvtInvalidCharacter` for an unpaired surrogate, and the exception of the system's `errno` value.
-FL_I18N_EXPORT fl::i18n::character_handling_mode_context
+[[nodiscard]] FL_I18N_EXPORT fl::i18n::character_handling_mode_context
 generate_character_handling_mask_from_volume(upath const& path);
 
 /// The name of the file as the volume spells it: `canonical(path, base)` in native form. An empty `path`
 /// gives an empty result; otherwise throws what `canonical` throws, `PathNotFound` for a missing file.
-FL_I18N_EXPORT ustring get_pathname_from_volume(ustring const& path, ustring const& base);
-FL_I18N_EXPORT upath get_pathname_from_volume(upath const& path, upath const& base);
+[[nodiscard]] FL_I18N_EXPORT ustring get_pathname_from_volume(ustring const& path, ustring const& base);
+[[nodiscard]] FL_I18N_EXPORT upath get_pathname_from_volume(upath const& path, upath const& base);
 
 } // namespace fl::filesystem

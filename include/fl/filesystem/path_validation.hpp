@@ -30,7 +30,7 @@ enum validation_id : std::uint32_t {
 /// units of the name in NFD; by any other mode the bytes of the name in UTF-8, where an unpaired surrogate
 /// takes one byte, as when a file is opened. A length beyond a signed 32-bit integer throws
 /// `FileNameTooLarge`.
-FL_I18N_EXPORT validation_id validate_pathname(ustring const& name, validation_id ids,
-                                               fl::i18n::character_handling_mode_context const& mode);
+[[nodiscard]] FL_I18N_EXPORT validation_id validate_pathname(
+    ustring const& name, validation_id ids, fl::i18n::character_handling_mode_context const& mode);
 
 } // namespace fl::filesystem

@@ -56,7 +56,7 @@ public:
     explicit upath_recursive_directory_iterator(upath_directory_iterator const& start);
 
     /// The current entry; throws `InvalidArgument` at the end, and after an increment that has thrown.
-    reference dereference() const;
+    [[nodiscard]] reference dereference() const;
 
     /// Goes on. Throws `InvalidArgument` at the end, and the class of the `errno` value for a directory that
     /// can't be opened or read any further: `NotDirectoryError` where a link has taken its place,
@@ -65,7 +65,7 @@ public:
 
     /// True for copies of one iterator, for any two at their end, and for two walks that share a directory
     /// iterator and have the same directories before them.
-    bool equal(upath_recursive_directory_iterator const& other) const;
+    [[nodiscard]] bool equal(upath_recursive_directory_iterator const& other) const;
 
     reference operator*() const { return dereference(); }
     pointer operator->() const { return &dereference(); }
@@ -101,10 +101,10 @@ namespace detail {
 
 /// False for a path whose last component is "." or "..", which a walk has to leave alone. A path without a
 /// component is traversable.
-FL_I18N_EXPORT bool isTraversableDirectory(upath const& path);
+[[nodiscard]] FL_I18N_EXPORT bool isTraversableDirectory(upath const& path);
 
 /// The entry's `symlink_status()`.
-FL_I18N_EXPORT file_status getPathStatus(upath_directory_entry const& entry);
+[[nodiscard]] FL_I18N_EXPORT file_status getPathStatus(upath_directory_entry const& entry);
 
 } // namespace detail
 } // namespace fl::filesystem

@@ -30,18 +30,19 @@ namespace fl::filesystem {
 /// write (access(2)), as it stands. Tried are `names`, "TMPDIR", "TMP" and "TEMP", then the directory "/tmp".
 /// If none will do, throws what is wrong with the last: `PathNotFound`, `NotDirectoryError`, `AccessDenied`
 /// and so on.
-FL_I18N_EXPORT ustring temp_dir_name(std::vector<std::string> const& names);
+[[nodiscard]] FL_I18N_EXPORT ustring temp_dir_name(std::vector<std::string> const& names);
 
 /// `temp_dir_name` in native form.
-FL_I18N_EXPORT ustring temp_directory_name();
-FL_I18N_EXPORT ustring temp_directory_name(std::vector<std::string> const& names);
+[[nodiscard]] FL_I18N_EXPORT ustring temp_directory_name();
+[[nodiscard]] FL_I18N_EXPORT ustring temp_directory_name(std::vector<std::string> const& names);
 
 /// A new name in `dir`, put in native form; an empty `dir` stands for the root. Nothing looks at the disk:
 /// the name is unused by likelihood alone. Empty if the system has no random numbers.
-FL_I18N_EXPORT ustring tmpfile_name(ustring const& dir, ustring const& prefix, ustring const& suffix);
+[[nodiscard]] FL_I18N_EXPORT ustring tmpfile_name(ustring const& dir, ustring const& prefix,
+                                                  ustring const& suffix);
 
 /// `tmpfile_name`, with `temp_directory_name()` in the place of an empty `dir`, and its exceptions.
-FL_I18N_EXPORT ustring tmpnam(ustring const& dir, ustring const& prefix, ustring const& suffix);
+[[nodiscard]] FL_I18N_EXPORT ustring tmpnam(ustring const& dir, ustring const& prefix, ustring const& suffix);
 
 /// Makes a file with a name as `tmpnam` gives, open for reading and writing of bytes, and stores the name in
 /// `out_name`. It stays until somebody removes it. It is made exclusively (fopen(3), mode "wb+x"): what
@@ -51,7 +52,7 @@ FL_I18N_EXPORT ustring tmpnam(ustring const& dir, ustring const& prefix, ustring
 ///
 /// On failure, after up to 11 names, returns null with `out_name` empty and `errno` 0: the reason isn't told.
 /// Throws for nothing but lack of memory.
-FL_I18N_EXPORT std::FILE* tmpfile(ustring& out_name, ustring const& dir, ustring const& prefix,
-                                  ustring const& suffix);
+[[nodiscard]] FL_I18N_EXPORT std::FILE* tmpfile(ustring& out_name, ustring const& dir, ustring const& prefix,
+                                                ustring const& suffix);
 
 } // namespace fl::filesystem
