@@ -1,7 +1,6 @@
 #include "filesystem/directory/open_directory.hpp"
 #include "filesystem/directory/tree_walk.hpp"
 #include "platform/posix.hpp"
-#include "support/rows.hpp"
 #include "support/temp_tree.hpp"
 
 #include <fl/filesystem/exceptions.hpp>
@@ -38,14 +37,25 @@ struct RecursiveDirectoryIteratorTest : testing::Test {
             if (shows)
                 found.insert(ustring_to_utf8(i->filename()));
             try {
-                ++i, shows = true;
+                ++i;
+                shows = true;
             } catch (FsysExceptionBase const&) {
-                found.insert("!"), shows = false;
+                shows = false;
+                found.insert("!");
                 EXPECT_THROW(*i, InvalidArgument);
             }
         }
         EXPECT_THROW(++i, InvalidArgument);
         return found;
+    }
+
+    static void replace_by_link(stdfs::path const& directory) {
+        stdfs::remove_all(directory);
+        stdfs::create_symlink("/", directory);
+    }
+    static void replace_by_file(stdfs::path const& directory) {
+        stdfs::remove_all(directory);
+        std::ofstream const file(directory);
     }
 
     /// How many descriptors of directories in `top` this process has, also of removed ones.
@@ -71,11 +81,12 @@ TEST_F(RecursiveDirectoryIteratorTest, ShowsEveryEntryOnceLevelByLevel) {
          {std::pair{"a/up", ".."}, {"out", "/"}, {"dangling", "no"}, {"self", "self"}})
         stdfs::create_symlink(target, tree.root() / link);
     ::mkfifo((tree.root() / "a/fifo").c_str(), 0600);
-    tree.file("wide/0");
+    stdfs::path const linked = tree.file("wide/0");
     for (int i = 1; i < 20'000; ++i)
-        i % 10 == 0
-            ? void(stdfs::create_directory(tree.root() / "wide" / std::to_string(i)))
-            : stdfs::create_hard_link(tree.root() / "wide/0", tree.root() / "wide" / std::to_string(i));
+        if (stdfs::path const entry = tree.root() / "wide" / std::to_string(i); i % 10 == 0)
+            stdfs::create_directory(entry);
+        else
+            stdfs::create_hard_link(linked, entry);
     std::multiset<ustring> shown, expected;
     std::ptrdiff_t level = 0;
     for (upath_directory_entry const& entry : walk(root)) {
@@ -93,7 +104,8 @@ TEST_F(RecursiveDirectoryIteratorTest, PathsLongerThanTheSystemTakes) {
     stdfs::current_path(tree.root());
     std::string deepest;
     for (int i = 0; i < depth; ++i, deepest += "directory\xFF/") {
-        stdfs::create_symlink("..", "link"), stdfs::create_directory("directory\xFF");
+        stdfs::create_symlink("..", "link");
+        stdfs::create_directory("directory\xFF");
         stdfs::current_path("directory\xFF");
     }
     stdfs::current_path("/");
@@ -118,18 +130,29 @@ TEST_F(RecursiveDirectoryIteratorTest, ATreeDeeperThanTheStack) {
 }
 
 TEST_F(RecursiveDirectoryIteratorTest, WhatChangesDuringTheWalk) {
-    // The steps before the change, and what the walk shows after it.
-    std::tuple<int, void (*)(stdfs::path const&), std::string> const rows[] = {
-        {2, [](auto const& top) { remove_all(top / "2"); }, "! one three"},
-        {2, [](auto const& top) { remove_all(top); }, "! ! !"},
-        {0, [](auto const& top) { remove_all(top); }, "!"},
-        {2, [](auto const& top) { remove_all(top / "3"), create_symlink("/", top / "3"); }, "! one two"},
-        {2, [](auto const& top) { remove_all(top / "1"), std::ofstream(top / "1"); }, "! three two"},
-        {2, [](auto const& top) { rename(top, top.string() + "_"), create_directories(top / "1/a"); },
-         "one three two"},
-        {2, [](auto const& top) { permissions(top / "2", stdfs::perms()); },
-         ::geteuid() == 0 ? "one three two" : "! one three"}};
-    for (auto const& [steps, change, content] : rows) {
+    std::string const all = "one three two";
+    struct {
+        char const* change;
+        int steps_before;
+        void (*apply)(stdfs::path const& top);
+        std::string shown_after; // besides the entry where the walk stands
+    } const rows[] = {
+        {"a directory goes", 2, [](auto const& top) { remove_all(top / "2"); }, "! one three"},
+        {"the root goes", 2, [](auto const& top) { remove_all(top); }, "! ! !"},
+        {"the root goes at once", 0, [](auto const& top) { remove_all(top); }, "!"},
+        {"a link in its place", 2, [](auto const& top) { replace_by_link(top / "3"); }, "! one two"},
+        {"a file in its place", 2, [](auto const& top) { replace_by_file(top / "1"); }, "! three two"},
+        {"another tree in the root's place", 2,
+         [](auto const& top) {
+             rename(top, top.string() + "_");
+             create_directories(top / "1/a");
+         },
+         all},
+        {"no permission", 2, [](auto const& top) { permissions(top / "2", stdfs::perms()); },
+         ::geteuid() == 0 ? all : "! one three"},
+    };
+    for (auto const& [what, steps, change, content] : rows) {
+        SCOPED_TRACE(what);
         fl::testing::temp_tree const own;
         for (auto const name : {"top/1/one", "top/2/two", "top/3/three"})
             own.file(name);
@@ -138,7 +161,7 @@ TEST_F(RecursiveDirectoryIteratorTest, WhatChangesDuringTheWalk) {
         std::string const last = ustring_to_utf8(i->filename());
         change(own.root() / "top");
         EXPECT_EQ(rest(i), words(last + " " + content));
-        EXPECT_EQ(descriptors(own.root()), 0) << "at the end, with " << content;
+        EXPECT_EQ(descriptors(own.root()), 0) << "at the end";
         std::error_code ignored;
         permissions(own.root() / "top/2", stdfs::perms::owner_all, ignored);
     }
@@ -182,32 +205,52 @@ TEST_F(RecursiveDirectoryIteratorTest, DirectoriesAreNeverOpenedByLinks) {
     tree.file("a/b\xFF/c/file");
     stdfs::create_symlink("a", tree.root() / "link");
     stdfs::create_symlink("b\xFF", tree.root() / "a/link");
-    auto const table = fl::testing::rows<2>(
-        "a ~  a/b\xFF ~  a/b\xFF/c ~  a/b\xFF/c/file D  a/b\xFF/c/no E  a/no/c E  link D  "
-        "link/b\xFF D  a/link/c D  a/@ N  @/a N  a/b\xFF/@/c N");
-    for (auto [path, error] : table) {
+    std::string const too_long(256, 'n');
+    struct {
+        std::string path;
+        int error;
+    } const rows[] = {
+        {"a", 0},
+        {"a/b\xFF", 0},
+        {"a/b\xFF/c", 0},
+        {"a/b\xFF/c/file", ENOTDIR},
+        {"a/b\xFF/c/no", ENOENT},
+        {"a/no/c", ENOENT},
+        {"link", ENOTDIR},
+        {"link/b\xFF", ENOTDIR},
+        {"a/link/c", ENOTDIR},
+        {"a/" + too_long, ENAMETOOLONG},
+        {too_long + "/a", ENAMETOOLONG},
+        {"a/b\xFF/" + too_long + "/c", ENAMETOOLONG},
+    };
+    for (auto const& [path, error] : rows) {
         SCOPED_TRACE(path);
-        if (auto const place = path.find('@'); place != path.npos)
-            path.replace(place, 1, std::string(256, 'n'));
-        int const expected = error == "" ? 0 : error == "D" ? ENOTDIR : error == "E" ? ENOENT : ENAMETOOLONG;
         for (auto const open :
              {&fl::platform::open_directory_without_links, &fl::platform::open_directory_by_steps}) {
             detail::file_descriptor const opened(open(top.get(), path.c_str()));
-            EXPECT_EQ(opened.is_open() ? 0 : errno == ELOOP ? ENOTDIR : errno, expected);
+            EXPECT_EQ(opened.is_open() ? 0 : errno == ELOOP ? ENOTDIR : errno, error);
         }
-        EXPECT_EQ(to_handle(detail::open_below(top.get(), path)) ? 0 : errno, expected);
+        EXPECT_EQ(to_handle(detail::open_below(top.get(), path)) ? 0 : errno, error);
     }
 }
 
 TEST_F(RecursiveDirectoryIteratorTest, AsksTheDiskWhereTheDirectoryDoesNotTell) {
     tree.file("directory/file");
     stdfs::create_symlink(tree.root(), tree.root() / "link");
-    std::string const table =
-        "directory vv  directory/file ss  link ss  gone --  " + std::string(256, 'n') + " sv";
-    for (auto const& [name, expected] : fl::testing::rows<2>(table.c_str())) {
-        std::string actual; // for an entry of unknown type, and for a directory
-        for (unsigned char const type : {DT_UNKNOWN, DT_DIR})
-            actual += "-sv"[static_cast<int>(detail::treatment_of(type, top.get(), name.c_str()))];
-        EXPECT_EQ(actual, expected) << name;
+    using detail::treatment;
+    struct {
+        std::string name;
+        treatment of_unknown_type, of_directory;
+    } const rows[] = {
+        {"directory", treatment::show_and_visit, treatment::show_and_visit},
+        {"directory/file", treatment::show, treatment::show},
+        {"link", treatment::show, treatment::show},
+        {"gone", treatment::drop, treatment::drop},
+        {std::string(256, 'n'), treatment::show, treatment::show_and_visit},
+    };
+    for (auto const& row : rows) {
+        EXPECT_EQ(detail::treatment_of(DT_UNKNOWN, top.get(), row.name.c_str()), row.of_unknown_type)
+            << row.name;
+        EXPECT_EQ(detail::treatment_of(DT_DIR, top.get(), row.name.c_str()), row.of_directory) << row.name;
     }
 }

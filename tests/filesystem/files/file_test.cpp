@@ -27,8 +27,11 @@ static int outcome(std::FILE* file) {
 }
 
 TEST(File, RefusesArgumentsInOrder) {
-    std::tuple<ustring, std::string, int, int> const rows[] = {
-        // `errno` of the two forms
+    struct {
+        ustring name;
+        std::string mode;
+        int by_text, by_path; // `errno`
+    } const rows[] = {
         {u"", "r", EINVAL, EINVAL},         {u"\0x"s, "r", EINVAL, EINVAL},
         {u"x\0"s, "r", EINVAL, EINVAL},     {u"x", "", EINVAL, EINVAL},
         {u"x", "r\0"s, EINVAL, EINVAL},     {u"no-such/", "", EINVAL, EINVAL},

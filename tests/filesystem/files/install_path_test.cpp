@@ -1,6 +1,5 @@
 #include "support/ascii.hpp"
 #include "support/platform_double.hpp"
-#include "support/rows.hpp"
 #include "support/temp_tree.hpp"
 #include "support/threads.hpp"
 
@@ -16,7 +15,8 @@ using namespace fl::filesystem;
 /// Stands in for the system's services during a test.
 struct InstallPathTest : testing::Test, fl::testing::volume_double {
     std::string module_path(void const*) const override {
-        return ++calls, path == "throw" ? throw path : path;
+        ++calls;
+        return path == "throw" ? throw path : path;
     }
 
     std::string path;
@@ -24,10 +24,20 @@ struct InstallPathTest : testing::Test, fl::testing::volume_double {
 };
 
 TEST_F(InstallPathTest, WalksUpToTheDirectoryPair) {
-    for (auto const& [module, root] : fl::testing::rows<2>(
-             "/opt/x/bin/" DIR "/lib.so /opt/x  //\xFFx//bin/" DIR "//lib.so /\xFFx  /bin/" DIR "/lib.so /  "
-             "/x/bin/" DIR "/y/z/lib.so /x  /x/bin/" DIR "/" DIR "/lib.so /x  /x/" DIR "/lib.so ~  "
-             "/" DIR "/lib.so ~  x/bin/other/lib.so ~  ~ ~")) {
+    struct {
+        char const *module, *root;
+    } const rows[] = {
+        {"/opt/x/bin/" DIR "/lib.so", "/opt/x"},
+        {"//\xFFx//bin/" DIR "//lib.so", "/\xFFx"},
+        {"/bin/" DIR "/lib.so", "/"},
+        {"/x/bin/" DIR "/y/z/lib.so", "/x"},
+        {"/x/bin/" DIR "/" DIR "/lib.so", "/x"},
+        {"/x/" DIR "/lib.so", ""},
+        {"/" DIR "/lib.so", ""},
+        {"x/bin/other/lib.so", ""},
+        {"", ""},
+    };
+    for (auto const& [module, root] : rows) {
         path = module;
         EXPECT_EQ(get_base_path(nullptr), root) << module;
     }

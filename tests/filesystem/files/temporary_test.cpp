@@ -1,6 +1,5 @@
 #include "filesystem/files/temporary_steps.hpp"
 #include "support/failure.hpp"
-#include "support/rows.hpp"
 #include "support/temp_tree.hpp"
 
 #include <fl/filesystem/exceptions.hpp>
@@ -22,8 +21,9 @@ struct TemporaryTest : testing::Test {
     TemporaryTest() {
         std::filesystem::create_directory(tree.root() / "a");
         tree.file("file", "precious");
-        for (auto const& [link, target] : fl::testing::rows<2>("link file  dangling missing  loop loop"))
-            std::filesystem::create_symlink(target, tree.root() / link);
+        std::filesystem::create_symlink("file", tree.root() / "link");
+        std::filesystem::create_symlink("missing", tree.root() / "dangling");
+        std::filesystem::create_symlink("loop", tree.root() / "loop");
         EXPECT_EQ(::mkfifo((tree.root() / "pipe").c_str(), 0600), 0);
     }
     /// Opens with each of `tokens` in turn, and for ever with the last one.
@@ -40,10 +40,15 @@ struct TemporaryTest : testing::Test {
 
 TEST_F(TemporaryTest, TenThousandNamesAreUnique) {
     std::regex const token("[0-9a-f]{4}(-[0-9a-f]{4}){3}");
-    for (auto const& [dir, suffix, form] : fl::testing::rows<3>(
-             "/d .log /d/p*.log  d log d/p*.log  /d//e// ~ /d/e/p*  / .. /p*..  ~ \u00E9 /p*.\u00E9")) {
-        auto const made = tmpfile_name(detail::from_filesystem(dir), u"p", detail::from_filesystem(suffix));
-        EXPECT_EQ(std::regex_replace(detail::to_filesystem(made), token, "*"), form);
+    struct {
+        ustring directory, suffix, form; // with "*" for the token
+    } const rows[] = {
+        {u"/d", u".log", u"/d/p*.log"}, {u"d", u"log", u"d/p*.log"},     {u"/d//e//", u"", u"/d/e/p*"},
+        {u"/", u"..", u"/p*.."},        {u"", u"\u00E9", u"/p*.\u00E9"},
+    };
+    for (auto const& [directory, suffix, form] : rows) {
+        std::string const made = detail::to_filesystem(tmpfile_name(directory, u"p", suffix));
+        EXPECT_EQ(std::regex_replace(made, token, "*"), detail::to_filesystem(form));
     }
     std::set<ustring> names;
     while (names.size() < 10'000)
@@ -67,18 +72,33 @@ TEST_F(TemporaryTest, NothingThatExistsIsOpenedOrFollowed) {
 }
 
 TEST_F(TemporaryTest, TheFirstUsableDirectoryOfTheEnvironmentServes) {
-    // Values of four variables, in the tree, "=" for one that is not set; the result likewise, "=" for /tmp.
     char const* const variables[] = {"OWN", "TMPDIR", "TMP", "TEMP"};
-    for (auto const& row : fl::testing::rows<5>(
-             "= = = = =  = a a/. = a  = = a a/. a  = = = a// a//  = ~ a = a  = file = = =  "
-             "= file missing a a  = loop a = a  = \xFF pipe link =  a a/. = = a  file a = = a")) {
+    constexpr char const* unset = nullptr;
+    struct {
+        char const* values[4]; // of the variables in turn, in the tree
+        char const* found;     // likewise; null for "/tmp"
+    } const rows[] = {
+        {{unset, unset, unset, unset}, nullptr},
+        {{unset, "a", "a/.", unset}, "a"},
+        {{unset, unset, "a", "a/."}, "a"},
+        {{unset, unset, unset, "a//"}, "a//"},
+        {{unset, "", "a", unset}, "a"},
+        {{unset, "file", unset, unset}, nullptr},
+        {{unset, "file", "missing", "a"}, "a"},
+        {{unset, "loop", "a", unset}, "a"},
+        {{unset, "\xFF", "pipe", "link"}, nullptr},
+        {{"a", "a/.", unset, unset}, "a"},
+        {{"file", "a", unset, unset}, "a"},
+    };
+    for (auto const& row : rows) {
         for (std::size_t i = 0; i < 4; ++i) {
-            std::string const value = row[i].empty() ? "" : tree.root() / row[i];
-            ASSERT_EQ(row[i] == "=" ? ::unsetenv(variables[i]) : ::setenv(variables[i], value.c_str(), 1), 0);
+            std::string const value = row.values[i] && *row.values[i] ? tree.root() / row.values[i] : "";
+            ASSERT_EQ(row.values[i] ? ::setenv(variables[i], value.c_str(), 1) : ::unsetenv(variables[i]), 0);
         }
         // The first two are no names of variables.
         ustring const found = temp_dir_name({"", std::string("TMPDIR\0", 7), "OWN"});
-        EXPECT_EQ(found, row[4] == "=" ? u"/tmp" : tree.text(detail::from_filesystem(row[4])));
+        EXPECT_EQ(found, row.found ? tree.text(detail::from_filesystem(row.found)) : u"/tmp")
+            << testing::PrintToString(row.values);
     }
     ASSERT_EQ(::setenv("TMPDIR", (tree.root() / "a//").c_str(), 1), 0);
     EXPECT_TRUE(tmpnam(u"", u"p", u"").starts_with(tree.text(u"a/p")));

@@ -9,12 +9,15 @@
 using namespace fl::filesystem;
 
 TEST(ErrorNumber, EachErrorNumberHasItsClassAndGoesBack) {
-    std::tuple<int, std::string, std::int32_t> const rows[] = {
-        {EINVAL, "InvalidArgument", 1},    {ENOTSUP, "InvalidArgument", 1},
-        {EACCES, "AccessDenied", 6},       {ENOENT, "PathNotFound", 7},
-        {ENOTDIR, "NotDirectoryError", 8}, {ENOTEMPTY, "DirectoryNotEmpty", 9},
-        {EISDIR, "FileIsDirectory", 10},   {EEXIST, "FileExistsError", 11},
-        {ELOOP, "SystemError", 13},        {ENAMETOOLONG, "FileNameTooLarge", 3}};
+    struct {
+        int error;
+        std::string id;
+        std::int32_t code;
+    } const rows[] = {{EINVAL, "InvalidArgument", 1},    {ENOTSUP, "InvalidArgument", 1},
+                      {EACCES, "AccessDenied", 6},       {ENOENT, "PathNotFound", 7},
+                      {ENOTDIR, "NotDirectoryError", 8}, {ENOTEMPTY, "DirectoryNotEmpty", 9},
+                      {EISDIR, "FileIsDirectory", 10},   {EEXIST, "FileExistsError", 11},
+                      {ELOOP, "SystemError", 13},        {ENAMETOOLONG, "FileNameTooLarge", 3}};
     for (auto const& [error, id, code] : rows) {
         SCOPED_TRACE(id);
         try {
