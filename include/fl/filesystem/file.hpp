@@ -15,7 +15,7 @@
 #include <fl/i18n/export.hpp>
 #include <fl/i18n/ustring.hpp>
 
-#include <boost/noncopyable.hpp>
+#include <boost/core/noncopyable.hpp>
 
 #include <cstdio>
 #include <fstream>

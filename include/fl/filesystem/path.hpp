@@ -5,7 +5,7 @@
 /// least of all. `upath` holds UTF-16, the form that this library works in; `native_path` holds the bytes
 /// that the system takes. Between the two stands UTF-8, always, whatever the locale's encoding is.
 ///
-///     upath path(fl::filesystem::detail::make_native_form(root, 1));   // "/opt//x/" gives "/opt/x"
+///     upath path(fl::filesystem::detail::make_native_form(root));   // "/opt//x/" gives "/opt/x"
 ///     path /= u"resources";                            // "/opt/x/resources"
 ///     std::string const bytes = fl::filesystem::detail::make_native_access_form(path.string());
 ///
@@ -132,10 +132,10 @@ namespace detail {
 [[nodiscard]] FL_I18N_EXPORT std::string make_native_access_form_with_cleanup(ustring const& name,
                                                                               int form = 1);
 
-/// `make_native_access_form(name, 1)`.
+/// `make_native_access_form(name)`.
 [[nodiscard]] FL_I18N_EXPORT std::string make_native_access_form_i18n(ustring name);
 
-/// `make_native_access_form_with_cleanup(name, 1)`.
+/// `make_native_access_form_with_cleanup(name)`.
 [[nodiscard]] FL_I18N_EXPORT std::string make_native_access_form_with_cleanup_i18n(ustring const& name);
 
 /// Throws `InvalidArgument`: an iterator was used past its end.

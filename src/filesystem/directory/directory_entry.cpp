@@ -50,7 +50,7 @@ ustring upath_directory_entry::alternative_filename() const {
 }
 
 ustring upath_directory_entry::full_pathname() const {
-    return detail::concatenate_pathname(record_->directory->text(), record_->text, 1);
+    return detail::concatenate_pathname(record_->directory->text(), record_->text);
 }
 
 std::uint32_t upath_directory_entry::type() const {

@@ -46,7 +46,7 @@ directory_entry_context::~directory_entry_context() {
 }
 
 directory_entry_context::directory_entry_context(ustring const& directory) {
-    std::string path = detail::make_native_access_form(absolute(directory, u""), 1);
+    std::string path = detail::make_native_access_form(absolute(directory, u""));
     detail::directory_handle handle = detail::open_by_path(path);
     opening_error_ = handle ? 0 : errno;
     directory_ = std::make_shared<detail::open_directory>(

@@ -51,7 +51,7 @@ std::string encode_built_in(ustring const& name) {
 template <class Encode, class Open>
 std::FILE* open_text(ustring const& name, std::string const& mode, Encode const& encode, Open const& open) {
     return open_encoded(
-        refusal_of_text(name, mode), [&] { return encode(detail::make_native_form(name, 1)); }, open);
+        refusal_of_text(name, mode), [&] { return encode(detail::make_native_form(name)); }, open);
 }
 
 template <class Encode, class Open>

@@ -26,7 +26,7 @@ std::string canonical_or_native(std::string const& path) {
     try {
         return detail::to_filesystem(canonical(detail::from_filesystem(path), ustring()));
     } catch (FsysExceptionBase const&) { // gone from the disk, or a name that is not UTF-8
-        return narrow::make_native_form(path, 1);
+        return narrow::make_native_form(path);
     }
 }
 
@@ -71,7 +71,7 @@ std::string get_base_path(void* address) {
     if (module.empty())
         return {};
     std::string const path = canonical_or_native(module);
-    return tree_root(narrow::make_native_form(path, 1), ignores_case(path));
+    return tree_root(narrow::make_native_form(path), ignores_case(path));
 }
 
 ustring get_install_path() {

@@ -33,7 +33,7 @@ void last_write_time(ustring const& name, ptime const& time) {
         support::raise(InvalidArgument("Empty Path not permitted"));
     if (time.is_not_a_date_time())
         support::raise(InvalidArgument("Time is not a ptime", name));
-    std::string const bytes = detail::make_native_access_form(name, 1);
+    std::string const bytes = detail::make_native_access_form(name);
     if (time.is_infinity())
         detail::throw_errno(EOVERFLOW);
     std::timespec unchanged{};

@@ -20,13 +20,13 @@ std::int32_t compare_by_volume(ustring const& a, ustring const& b) {
     require_absolute(b);
     if (a.empty() || b.empty())
         return detail::compare_names(a, b, character_handling_mode_context::default_mode);
-    return detail::compare_names(a, b, detail::read_volume_rules(detail::make_native_access_form(a, 1)));
+    return detail::compare_names(a, b, detail::read_volume_rules(detail::make_native_access_form(a)));
 }
 
 } // namespace
 
 std::int32_t compare(ustring const& a, ustring const& b) {
-    return compare_by_volume(detail::make_native_form(a, 1), detail::make_native_form(b, 1));
+    return compare_by_volume(detail::make_native_form(a), detail::make_native_form(b));
 }
 
 std::int32_t compare(upath const& a, upath const& b) {
@@ -44,11 +44,11 @@ std::int32_t compare(upath const& a, upath const& b, character_handling_mode_con
 character_handling_mode_context generate_character_handling_mask_from_volume(upath const& path) {
     if (path.empty())
         support::raise(InvalidArgument("Empty Path not permitted"));
-    return detail::read_volume_rules(detail::make_native_access_form(path.string(), 1));
+    return detail::read_volume_rules(detail::make_native_access_form(path.string()));
 }
 
 ustring get_pathname_from_volume(ustring const& path, ustring const& base) {
-    return path.empty() ? ustring() : detail::make_native_form(canonical(path, base), 1);
+    return path.empty() ? ustring() : detail::make_native_form(canonical(path, base));
 }
 
 upath get_pathname_from_volume(upath const& path, upath const& base) {

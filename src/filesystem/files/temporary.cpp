@@ -22,7 +22,7 @@ constexpr int most_tries = 11;
 ustring named(ustring const& dir, ustring const& prefix, std::string_view token, ustring const& suffix) {
     if (token.empty())
         return {};
-    ustring name = detail::make_native_form(dir, 1);
+    ustring name = detail::make_native_form(dir);
     if (!name.ends_with(upath_constant::PATHNAME_SEPARATOR))
         name += upath_constant::PATHNAME_SEPARATOR;
     name += prefix;
@@ -62,7 +62,7 @@ std::string detail::random_token(std::string (*source)(), std::string (*second_s
 std::FILE* detail::open_temporary(ustring& out_name, ustring const& dir, ustring const& prefix,
                                   ustring const& suffix, token_source const& tokens) {
     for (int tries = 0; tries < most_tries; ++tries) {
-        ustring name = make_native_form(named(dir, prefix, tokens(), suffix), 1);
+        ustring name = make_native_form(named(dir, prefix, tokens(), suffix));
         if (name.empty())
             break;
         if (std::FILE* const file = fopen(name, "wb+x")) {

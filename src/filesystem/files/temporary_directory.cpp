@@ -75,7 +75,7 @@ ustring temp_directory_name() {
 }
 
 ustring temp_directory_name(std::vector<std::string> const& names) {
-    return detail::make_native_form(temp_dir_name(names), 1);
+    return detail::make_native_form(temp_dir_name(names));
 }
 
 } // namespace fl::filesystem

@@ -16,7 +16,7 @@ using stat_call = int (*)(char const*, struct stat*);
 file_status status_by(stat_call call, ustring const& name) {
     if (name.find(u'\0') != name.npos) // the system would see the name up to there, and tell of another file
         return detail::missing_file_status();
-    std::string const bytes = detail::make_native_access_form(name, 1);
+    std::string const bytes = detail::make_native_access_form(name);
     struct stat record;
     if (call(bytes.c_str(), &record) == 0)
         return detail::to_file_status(record);
@@ -41,7 +41,7 @@ ustring working_directory() {
 ustring absolute_base(ustring const& base) {
     if (detail::is_absolute(base))
         return base;
-    return detail::concatenate_pathname(working_directory(), base, 1);
+    return detail::concatenate_pathname(working_directory(), base);
 }
 
 } // namespace
@@ -68,14 +68,14 @@ bool exists(upath const& path) {
 
 ustring absolute(ustring const& name, ustring const& base) {
     if (detail::is_absolute(name))
-        return detail::make_native_form(name, 1);
-    return detail::make_native_form(detail::concatenate_pathname(absolute_base(base), name, 1), 1);
+        return detail::make_native_form(name);
+    return detail::make_native_form(detail::concatenate_pathname(absolute_base(base), name));
 }
 
 ustring canonical(ustring const& name, ustring const& base) {
     if (name.empty())
         detail::throw_errno(ENOENT);
-    std::string const bytes = detail::make_native_access_form(absolute(name, base), 1);
+    std::string const bytes = detail::make_native_access_form(absolute(name, base));
     std::unique_ptr<char, free_memory> const resolved(::realpath(bytes.c_str(), nullptr));
     if (!resolved)
         detail::throw_errno(errno, bytes);

@@ -64,11 +64,11 @@ std::string make_native_access_form_with_cleanup(ustring const& name, int) {
 }
 
 std::string make_native_access_form_i18n(ustring name) {
-    return make_native_access_form(std::move(name), 1);
+    return make_native_access_form(std::move(name));
 }
 
 std::string make_native_access_form_with_cleanup_i18n(ustring const& name) {
-    return make_native_access_form_with_cleanup(name, 1);
+    return make_native_access_form_with_cleanup(name);
 }
 
 void throw_invalid_operation_exception() {
