@@ -27,7 +27,7 @@ file_status status_of(detail::directory_entry_record const& record, int flags) {
     int const error = stat_entry(record, flags, result);
     if (error == 0)
         return detail::to_file_status(result);
-    if (error == ENOENT || error == EINVAL)
+    if (detail::is_missing(error))
         return detail::missing_file_status();
     detail::throw_errno(error, record.directory->node->path_of(record.name));
 }

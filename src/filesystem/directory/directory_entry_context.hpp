@@ -36,6 +36,7 @@ inline bool is_dot_entry(std::u16string_view name) noexcept {
 
 } // namespace detail
 
+/// A source of entries, which stands on one of them at a time.
 class directory_entry_context {
 public:
     directory_entry_context(directory_entry_context const&) = delete;

@@ -70,7 +70,7 @@ bool upath_directory_iterator_impl::is_open() const noexcept {
 
 void upath_directory_iterator_impl::fill_entry(directory_entry_context const* context) {
     directory_entry_record& record = *entry_.record_;
-    if (record.directory != context->directory())
+    if (record.directory != context->directory()) // seldom; spares the counting of references
         record.directory = context->directory();
     record.name = context->raw_name();
     record.text = context->name();

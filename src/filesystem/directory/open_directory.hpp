@@ -3,6 +3,7 @@
 
 #include <fl/i18n/ustring.hpp>
 
+#include <cerrno>
 #include <cstddef>
 #include <dirent.h>
 #include <memory>
@@ -76,6 +77,12 @@ struct open_directory {
 private:
     mutable std::optional<ustring> text_;
 };
+
+/// True for an `errno` value by which a file system says that it has no such entry: some answer `EINVAL` to a
+/// name that they can't hold.
+constexpr bool is_missing(int error) noexcept {
+    return error == ENOENT || error == EINVAL;
+}
 
 /// Opens the directory, links followed. Null with `errno` on failure.
 directory_handle open_by_path(std::string const& path) noexcept;

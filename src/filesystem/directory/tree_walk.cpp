@@ -36,7 +36,7 @@ treatment treatment_of(unsigned char type, int directory, char const* name) noex
     struct stat status;
     if (::fstatat(directory, name, &status, AT_SYMLINK_NOFOLLOW) == 0)
         return by_type(type_of(status.st_mode));
-    if (errno == ENOENT || errno == EINVAL)
+    if (is_missing(errno))
         return treatment::drop;
     return type == DT_DIR ? treatment::show_and_visit : treatment::show;
 }
