@@ -3,7 +3,7 @@
 
 #include "fuzz.hpp"
 
-#include <fl/i18n/message_catalog.hpp>
+#include <fl/i18n/message_catalog_impl.hpp>
 
 #include <algorithm>
 #include <filesystem>

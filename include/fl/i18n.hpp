@@ -16,6 +16,8 @@
 #pragma once
 
 #include <fl/i18n/catalog_id.hpp>
+#include <fl/i18n/catalog_map_xml.hpp>
+#include <fl/i18n/catalog_text_processor.hpp>
 #include <fl/i18n/catalog_xml.hpp>
 #include <fl/i18n/character_class.hpp>
 #include <fl/i18n/character_handling_mode.hpp>
@@ -56,6 +58,8 @@
 #include <fl/i18n/locale_status.hpp>
 #include <fl/i18n/locale_tables.hpp>
 #include <fl/i18n/message_catalog.hpp>
+#include <fl/i18n/message_catalog_exceptions.hpp>
+#include <fl/i18n/message_catalog_impl.hpp>
 #include <fl/i18n/message_id_completion.hpp>
 #include <fl/i18n/natural_sort_exceptions.hpp>
 #include <fl/i18n/pattern_match.hpp>

@@ -3,7 +3,6 @@
 #include <fl/filesystem/directory_iterator.hpp>
 #include <fl/filesystem/exceptions.hpp>
 #include <fl/filesystem/file_status.hpp>
-#include <fl/i18n/message_id_completion.hpp>
 
 #include <algorithm>
 #include <deque>
@@ -131,12 +130,8 @@ std::vector<upath> catalog_maps_for(upath const& location, std::u16string_view h
     return list;
 }
 
-UnitTest::MsgCatTabComplTestHelper::MsgCatTabComplTestHelper(ustring const& mapPath) {
-    map_path() = mapPath;
-}
-
-UnitTest::MsgCatTabComplTestHelper::~MsgCatTabComplTestHelper() {
-    map_path().clear();
+void place_catalog_maps(ustring const& path) {
+    map_path() = path;
 }
 
 } // namespace fl::i18n

@@ -21,4 +21,10 @@ struct catalog_registry {
 /// the process exits.
 catalog_registry& get_catalog_registry();
 
+/// Answers a cache miss; the caller holds `catalog_registry_mutex`. A catalog that belongs to a fallback
+/// locale is entered under that locale's key as well, so that all locales which fall back to it share one
+/// object.
+std::shared_ptr<MessageCatalog> load_catalog(catalog_cache& cache, std::string const& catalog,
+                                             QnLocale const& locale, std::string const& key);
+
 } // namespace fl::i18n

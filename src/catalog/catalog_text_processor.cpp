@@ -1,4 +1,4 @@
-#include <fl/i18n/catalog_xml.hpp>
+#include <fl/i18n/catalog_text_processor.hpp>
 
 #include <algorithm>
 

@@ -10,6 +10,22 @@
 
 namespace fl::i18n {
 
+ExpatEventHandler::ExpatEventHandler(std::string const& encoding) : encoding_(encoding) {}
+
+ExpatEventHandler::~ExpatEventHandler() = default;
+
+bool ExpatEventHandler::elementStart(char const* name, char const** attributes) {
+    return continue_ && (continue_ = doElementStart(name, attributes));
+}
+
+bool ExpatEventHandler::elementData(char const* data, int length) {
+    return continue_ && (continue_ = doElementData(data, length));
+}
+
+bool ExpatEventHandler::elementEnd(char const* name) {
+    return continue_ && (continue_ = doElementEnd(name));
+}
+
 struct ExpatLoader::XML_Parser_User_Data : xml::expat_session {
     XML_Parser_User_Data(XML_Parser parser, boost::shared_ptr<ExpatEventHandler> its_handler)
         : expat_session(parser),

@@ -1,12 +1,29 @@
+#include "catalog/catalog_registry.hpp"
+#include "catalog/message_format.hpp"
 #include "catalog/xml_catalog_data_store.hpp"
 #include "support/raise.hpp"
 
 #include <fl/i18n/catalog_xml.hpp>
-#include <fl/i18n/message_catalog.hpp>
+#include <fl/i18n/message_catalog_impl.hpp>
 
 namespace fl::i18n {
 
-MessageCatalog::~MessageCatalog() = default;
+namespace {
+
+void check_hole_count(std::size_t expected, std::size_t found) {
+    if (expected != found)
+        support::raise(MessageCatalog::IncorrectHoleCount(expected, found));
+}
+
+void fill_holes(detail::hole_names const& names, std::vector<hole_value>& holes,
+                hole_fill_function const& fill) {
+    for (icu::UnicodeString const& name : names) {
+        auto const info = detail::parseHoleName(name);
+        fill(holes, {info.custom_type, static_cast<unsigned long>(info.number)});
+    }
+}
+
+} // namespace
 
 MessageCatalogImpl::MessageCatalogImpl(std::string const& catalogName, filesystem::upath const& path,
                                        std::string const& localeName)
@@ -55,6 +72,46 @@ ustring MessageCatalogImpl::get_message_for_key(idbase::BaseMsgID const& id) con
 
 std::string MessageCatalogImpl::get_catalog_name() const {
     return catalogName_;
+}
+
+std::vector<filesystem::upath> MessageCatalogImpl::getTopLevelResourceLocations() {
+    std::vector<resource_location> const& locations = get_catalog_registry().locations.current();
+    if (locations.empty())
+        support::raise(MessageCatalogNotInitialized());
+    std::vector<filesystem::upath> paths;
+    paths.reserve(locations.size());
+    for (resource_location const& location : locations)
+        paths.push_back(location.path);
+    return paths;
+}
+
+ustring MessageCatalogImpl::getFormattedMessage(ustring const& message,
+                                                std::vector<hole_value> const& holes) {
+    return GetFormattedMessageImpl(message, holes, false);
+}
+
+ustring MessageCatalogImpl::GetFormattedMessageImpl(ustring const& message,
+                                                    std::vector<hole_value> const& holes, bool strict) {
+    auto format = detail::makeMessageFormat(message);
+    if (!strict && !format.usesNamedArguments())
+        return detail::formatHoles(format, holes, nullptr);
+    auto const names = detail::listHoleNames(format);
+    if (strict)
+        check_hole_count(names.size(), holes.size());
+    return detail::formatHoles(format, holes, &names);
+}
+
+ustring MessageCatalogImpl::GetFormattedMessageImpl(ustring const& message, std::vector<hole_value>& holes,
+                                                    hole_fill_function const& fill) {
+    auto format = detail::makeMessageFormat(message);
+    auto const names = detail::listHoleNames(format);
+    if (!names.empty() && detail::is_word(names.front())) {
+        check_hole_count(0, holes.size());
+        return message;
+    }
+    check_hole_count(names.size(), holes.size());
+    fill_holes(names, holes, fill);
+    return detail::formatHoles(format, holes, &names);
 }
 
 } // namespace fl::i18n

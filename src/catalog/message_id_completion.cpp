@@ -1,16 +1,18 @@
 #include "catalog/catalog_map.hpp"
-#include "catalog/legacy_identifier.hpp"
 #include "support/ascii.hpp"
 #include "support/raise.hpp"
 
+#include <fl/i18n/catalog_id.hpp>
+#include <fl/i18n/catalog_map_xml.hpp>
+#include <fl/i18n/codecvt_ascii.hpp>
 #include <fl/i18n/compare.hpp>
 #include <fl/i18n/ctype_exceptions.hpp>
-#include <fl/i18n/idbase.hpp>
-#include <fl/i18n/message_catalog.hpp>
+#include <fl/i18n/message_catalog_impl.hpp>
 #include <fl/i18n/message_id_completion.hpp>
 
 #include <boost/make_shared.hpp>
 #include <boost/numeric/conversion/cast.hpp>
+#include <boost/unordered_set.hpp>
 
 #include <algorithm>
 #include <string_view>
@@ -47,6 +49,13 @@ std::string to_ascii(std::u16string_view text) {
 
 ustring from_ascii(std::string_view text) {
     return codecvt_ascii_to_ustring(false).convert(text.data(), text.size());
+}
+
+/// The text by which callers know a catalog, whose own name is `catalog`: what `makeInternalCatalogName`
+/// turns into that name.
+std::string toExternalCatalogText(std::string const& catalog) {
+    std::string const component = catalog.substr(0, catalog.find(':'));
+    return idbase::makeInternalCatalogName(component) == catalog ? component : catalog;
 }
 
 /// The keys of all map files; one that is broken gives what stands before the break.
@@ -135,6 +144,14 @@ message_id_completions getMessageIdCompletions(ustring const& input) try {
     return complete(input);
 } catch (...) {
     return {}; // nobody who is typing can do anything about it
+}
+
+UnitTest::MsgCatTabComplTestHelper::MsgCatTabComplTestHelper(ustring const& mapPath) {
+    place_catalog_maps(mapPath);
+}
+
+UnitTest::MsgCatTabComplTestHelper::~MsgCatTabComplTestHelper() {
+    place_catalog_maps(ustring());
 }
 
 } // namespace fl::i18n

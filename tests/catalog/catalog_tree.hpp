@@ -6,7 +6,7 @@
 #include "support/temp_tree.hpp"
 
 #include <fl/i18n/locale.hpp>
-#include <fl/i18n/message_catalog.hpp>
+#include <fl/i18n/message_catalog_impl.hpp>
 
 #include <gtest/gtest.h>
 

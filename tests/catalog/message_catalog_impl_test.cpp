@@ -1,7 +1,7 @@
 #include "support/failure.hpp"
 #include "support/temp_tree.hpp"
 
-#include <fl/i18n/message_catalog.hpp>
+#include <fl/i18n/message_catalog_impl.hpp>
 
 #include <gtest/gtest.h>
 

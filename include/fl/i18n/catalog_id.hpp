@@ -125,4 +125,12 @@ private:
     std::string msgKey_;
 };
 
+namespace idbase {
+
+/// The catalog behind the text that a caller uses for it: the host application's old messages have
+/// identifiers of two parts, "KESTRUNE:key", and lie in the catalog "KESTRUNE:legacy_two_part". Any other
+/// text names its catalog itself and comes back as it is.
+FL_I18N_EXPORT std::string makeInternalCatalogName(std::string const& catalog);
+
+} // namespace idbase
 } // namespace fl::i18n

@@ -1,5 +1,5 @@
 /// @file
-/// Reading the XML file of a message catalog.
+/// Reading the XML file of a message catalog, and where it lies.
 ///
 /// A catalog is a `rsccat` element that holds one `message` element that holds `entry` elements:
 ///
@@ -24,13 +24,13 @@
 #pragma once
 
 #include <fl/filesystem/path.hpp>
+#include <fl/i18n/catalog_text_processor.hpp>
 #include <fl/i18n/expat_loader.hpp>
 #include <fl/i18n/export.hpp>
+#include <fl/i18n/ustring.hpp>
 
-#include <cstddef>
 #include <cstdint>
 #include <string>
-#include <string_view>
 
 namespace fl::i18n {
 
@@ -58,36 +58,6 @@ public:
     bool loadFile(filesystem::upath const& path, MessageCatalogDataStore& store) override;
     ~XMLCatalogFileLoader() override;
 };
-
-namespace detail {
-
-/// Folds the text of an entry: each line is trimmed at both ends, empty lines vanish, and the others are
-/// joined with one blank each.
-///
-/// Text comes in chunks, and a line ends with the chunk that holds a line feed, form feed or carriage return.
-/// Breaks are expected to come as chunks of their own, as the XML parser delivers them; one in the middle of
-/// a chunk stays in the text. White space is blank, tab, line feed, vertical tab, form feed and carriage
-/// return. The cost is linear in the length of the text, however it is cut.
-class FL_I18N_EXPORT MessageCatalogTextProcessor {
-public:
-    /// Appends a chunk; an empty one changes nothing.
-    void add_chunk(std::string_view chunk);
-
-    /// Ends the text and returns it; the processor is then empty, ready for the next one.
-    std::string extract_complete_message();
-
-    /// As `extract_complete_message`, into a string whose storage is reused.
-    void extract_complete_message(std::string& message);
-
-private:
-    void fold_pending();
-
-    std::string pending_;
-    std::string complete_;
-    std::ptrdiff_t searched_ = 0; // bytes of the pending text that are known to hold no break
-};
-
-} // namespace detail
 
 /// Feeds a store from the events of a catalog file. An object reads one file.
 class FL_I18N_EXPORT MessageCatalogExpatEventHandler : public ExpatEventHandler {
@@ -128,6 +98,15 @@ private:
     parse_state state_ = parse_state::before_root;
     detail::MessageCatalogTextProcessor text_;
     std::string message_; // only here to keep its storage from entry to entry
+};
+
+/// Helpers around catalog files.
+class FL_I18N_EXPORT MessageCatalogUtility {
+public:
+    /// Where the file of a catalog lies below a resource location, with "%S" for the locale: "a:b:c" gives
+    /// "a/%S/b/c.xml". Empty if `id` is empty, has no colon, or ends in one. Text outside ASCII throws
+    /// `CvtInvalidCharacter`. Nothing else is checked: pass what `CatalogID` has accepted.
+    static ustring obtainXMLFilePathPattern(std::string const& id);
 };
 
 } // namespace fl::i18n

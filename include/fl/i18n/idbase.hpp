@@ -6,7 +6,6 @@
 ///     fl::ustring const text = fl::i18n::MessageCatalog::get_message(id);
 #pragma once
 
-#include <fl/i18n/export.hpp>
 #include <fl/i18n/ustring.hpp>
 
 #include <string>
@@ -31,11 +30,6 @@ struct BaseMsgID {
 struct BaseCatalogID {
     std::string catalog; ///< catalog identifier, as `CatalogID` takes it: "component:name"
 };
-
-/// The catalog behind the text that a caller uses for it: the host application's old messages have
-/// identifiers of two parts, "KESTRUNE:key", and lie in the catalog "KESTRUNE:legacy_two_part". Any other
-/// text names its catalog itself and comes back as it is.
-FL_I18N_EXPORT std::string makeInternalCatalogName(std::string const& catalog);
 
 } // namespace idbase
 } // namespace fl::i18n

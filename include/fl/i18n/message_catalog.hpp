@@ -27,7 +27,6 @@
 
 #include <boost/noncopyable.hpp>
 
-#include <exception>
 #include <functional>
 #include <memory>
 #include <string>
@@ -37,8 +36,6 @@
 namespace fl::i18n {
 
 class QnLocale;
-class MessageCatalogFileLoader;
-class XMLCatalogDataStore;
 
 /// Fills holes in place: called with the list of all hole values and, for one hole, its custom type (empty if
 /// the name has none) and its number. It may write any element of the list. The reference in the pair is
@@ -200,176 +197,6 @@ public:
     static ustring GetCustomHoleType(ustring const& message, unsigned long number);
 };
 
-class MessageCatalog::MessageCatalogIncorrectRoot : public std::exception {
-public:
-    MessageCatalogIncorrectRoot() noexcept = default;
-    MessageCatalogIncorrectRoot(MessageCatalogIncorrectRoot const&) noexcept = default;
-    MessageCatalogIncorrectRoot& operator=(MessageCatalogIncorrectRoot const&) noexcept = default;
-    ~MessageCatalogIncorrectRoot() override;
-    char const* what() const noexcept override;
-};
-
-class MessageCatalog::MessageCatalogNotInitialized : public std::exception {
-public:
-    MessageCatalogNotInitialized() noexcept = default;
-    MessageCatalogNotInitialized(MessageCatalogNotInitialized const&) noexcept = default;
-    MessageCatalogNotInitialized& operator=(MessageCatalogNotInitialized const&) noexcept = default;
-    ~MessageCatalogNotInitialized() override;
-    char const* what() const noexcept override;
-};
-
-class MessageCatalog::MessageCatalogLoadFailed : public std::exception {
-public:
-    explicit MessageCatalogLoadFailed(std::string const& catalog);
-    MessageCatalogLoadFailed(MessageCatalogLoadFailed const&) = default;
-    MessageCatalogLoadFailed& operator=(MessageCatalogLoadFailed const&) = default;
-    ~MessageCatalogLoadFailed() override;
-    /// Names the catalog; valid as long as this object.
-    char const* what() const noexcept override;
-
-private:
-    std::string text_;
-};
-
-class MessageCatalog::MessageNotFound : public std::exception {
-public:
-    MessageNotFound(std::string const& catalog, std::string const& key);
-    MessageNotFound(MessageNotFound const&) = default;
-    MessageNotFound& operator=(MessageNotFound const&) = default;
-    ~MessageNotFound() override;
-    /// Names the key and the catalog; valid as long as this object.
-    char const* what() const noexcept override;
-
-private:
-    std::string text_;
-};
-
-class MessageCatalog::MessageFormatIncorrect : public std::exception {
-public:
-    MessageFormatIncorrect() noexcept = default;
-    MessageFormatIncorrect(MessageFormatIncorrect const&) noexcept = default;
-    MessageFormatIncorrect& operator=(MessageFormatIncorrect const&) noexcept = default;
-    ~MessageFormatIncorrect() override;
-    char const* what() const noexcept override;
-};
-
-class MessageCatalog::IncorrectHoleCount : public std::exception {
-public:
-    /// `expected` is the number of holes and `found` the number of values; from `GetCustomHoleType`, the
-    /// number asked for and the number of holes.
-    IncorrectHoleCount(unsigned long expected, unsigned long found);
-    IncorrectHoleCount(IncorrectHoleCount const&) = default;
-    IncorrectHoleCount& operator=(IncorrectHoleCount const&) = default;
-    ~IncorrectHoleCount() override;
-    /// Names both numbers; valid as long as this object.
-    char const* what() const noexcept override;
-
-    unsigned long expected() const noexcept { return expected_; }
-    unsigned long found() const noexcept { return found_; }
-
-private:
-    unsigned long expected_;
-    unsigned long found_;
-    std::string text_;
-};
-
-class MessageCatalog::InvalidPathSupplied : public std::exception {
-public:
-    InvalidPathSupplied() noexcept = default;
-    InvalidPathSupplied(InvalidPathSupplied const&) noexcept = default;
-    InvalidPathSupplied& operator=(InvalidPathSupplied const&) noexcept = default;
-    ~InvalidPathSupplied() override;
-    char const* what() const noexcept override;
-};
-
-class MessageCatalog::ResDirNotPresent : public std::exception {
-public:
-    ResDirNotPresent() noexcept = default;
-    ResDirNotPresent(ResDirNotPresent const&) noexcept = default;
-    ResDirNotPresent& operator=(ResDirNotPresent const&) noexcept = default;
-    ~ResDirNotPresent() override;
-    char const* what() const noexcept override;
-};
-
-class MessageCatalog::ResourcePathNotFound : public std::exception {
-public:
-    ResourcePathNotFound() noexcept = default;
-    ResourcePathNotFound(ResourcePathNotFound const&) noexcept = default;
-    ResourcePathNotFound& operator=(ResourcePathNotFound const&) noexcept = default;
-    ~ResourcePathNotFound() override;
-    char const* what() const noexcept override;
-};
-
-class MessageCatalog::ResPathRemovalUnknownError : public std::exception {
-public:
-    explicit ResPathRemovalUnknownError(std::string const& error);
-    ResPathRemovalUnknownError(ResPathRemovalUnknownError const&) = default;
-    ResPathRemovalUnknownError& operator=(ResPathRemovalUnknownError const&) = default;
-    ~ResPathRemovalUnknownError() override;
-    /// Ends in the text of the error behind this one; valid as long as this object.
-    char const* what() const noexcept override;
-
-private:
-    std::string text_;
-};
-
-/// A catalog loaded from an XML file; see `<fl/i18n/catalog_xml.hpp>` for the format.
-class FL_I18N_EXPORT MessageCatalogImpl : public MessageCatalog {
-public:
-    /// Loads `path`. The two names are kept as given and not interpreted: `catalogName` is the identifier
-    /// that exceptions and `get_catalog_name` show. Throws `MessageCatalogLoadFailed` if the file is missing,
-    /// not readable or not a catalog.
-    MessageCatalogImpl(std::string const& catalogName, filesystem::upath const& path,
-                       std::string const& localeName);
-    ~MessageCatalogImpl() override;
-
-    /// Loads the file anew in place of what was loaded before; the constructor does this once. Not to be
-    /// called while another thread uses the object. Throws `MessageCatalogLoadFailed`, and then every look-up
-    /// does; `get_all_keys` then gives what was read before the fault.
-    void initializeXMLCatalog();
-
-    ustring get_message_for_key(std::string const& key) const override;
-    std::vector<std::string> get_all_keys() const override;
-    std::string get_locale_name() const override;
-    ustring get_message_for_key(idbase::BaseMsgID const& id) const override;
-    std::string get_catalog_name() const override;
-
-    /// The directories that are searched for catalogs, in order, additional ones included. Throws
-    /// `MessageCatalogNotInitialized` if no location was set yet.
-    static std::vector<filesystem::upath> getTopLevelResourceLocations();
-
-    /// Fills the holes of `message` without checking their number: "{0}" takes the first value, "{1}" the
-    /// second; with any other name in the message, values go to holes as in
-    /// `MessageCatalog::GetFormattedMessage`. A hole without a value stays in the text, a value without a
-    /// hole is ignored. Throws `MessageFormatIncorrect`.
-    static ustring getFormattedMessage(ustring const& message, std::vector<hole_value> const& holes);
-
-    /// `MessageCatalog::GetFormattedMessage` if `strict`, else `getFormattedMessage`.
-    static ustring GetFormattedMessageImpl(ustring const& message, std::vector<hole_value> const& holes,
-                                           bool strict);
-
-    /// `MessageCatalog::GetFormattedMessage` with a function, on the caller's list of values. Throws
-    /// `std::bad_function_call` for an empty `fill` if there are holes to fill.
-    static ustring GetFormattedMessageImpl(ustring const& message, std::vector<hole_value>& holes,
-                                           hole_fill_function const& fill);
-
-private:
-    std::string catalogName_;
-    filesystem::upath path_;
-    std::string localeName_;
-    // In this order: the store goes before the loader that filled it.
-    std::unique_ptr<MessageCatalogFileLoader> fileLoader_;
-    std::unique_ptr<XMLCatalogDataStore> dataStore_;
-    bool loaded_ = false;
-};
-
-/// Helpers around catalog files.
-class FL_I18N_EXPORT MessageCatalogUtility {
-public:
-    /// Where the file of a catalog lies below a resource location, with "%S" for the locale: "a:b:c" gives
-    /// "a/%S/b/c.xml". Empty if `id` is empty, has no colon, or ends in one. Text outside ASCII throws
-    /// `CvtInvalidCharacter`. Nothing else is checked: pass what `CatalogID` has accepted.
-    static ustring obtainXMLFilePathPattern(std::string const& id);
-};
-
 } // namespace fl::i18n
+
+#include <fl/i18n/message_catalog_exceptions.hpp>

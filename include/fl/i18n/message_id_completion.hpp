@@ -13,16 +13,10 @@
 /// come from the catalog itself, in the global locale.
 #pragma once
 
-#include <fl/i18n/codecvt_ascii.hpp>
-#include <fl/i18n/expat_loader.hpp>
 #include <fl/i18n/export.hpp>
 #include <fl/i18n/ustring.hpp>
 
-#include <boost/shared_ptr.hpp>
-#include <boost/unordered_set.hpp>
-
 #include <cstdint>
-#include <deque>
 #include <vector>
 
 namespace fl::i18n {
@@ -43,40 +37,6 @@ struct message_id_completions {
 /// where that catalog has a key with such a letter in the part that is compared, which is the whole key where
 /// nothing is typed behind the colon. Reads the disk at every call. Thread-safe.
 FL_I18N_EXPORT message_id_completions getMessageIdCompletions(ustring const& input);
-
-/// Collects the keys of map files. One object reads several files, one after the other, up to the first with
-/// an element out of place or that breaks off inside its root element: what stands before that counts, and
-/// nothing behind it, further files included. A key outside ASCII throws `CvtInvalidCharacter`.
-class FL_I18N_EXPORT MetaInfoExpatEventHandler : public ExpatEventHandler {
-public:
-    /// `head` is kept for the record and decides nothing. `keys` receives the keys, widened; shared with the
-    /// caller.
-    MetaInfoExpatEventHandler(ustring const& head,
-                              boost::shared_ptr<boost::unordered::unordered_set<ustring>> keys);
-    ~MetaInfoExpatEventHandler() override;
-
-    /// Start tags by element: each returns whether the element may stand here. `attributes` alternates names
-    /// and values and ends in a null pointer.
-    ///
-    /// In an `entry` only "key" is known to have a value; behind any other name the next item is taken for a
-    /// name again.
-    /// @{
-    bool process_root(char const** attributes);
-    bool process_entry_tag(char const** attributes);
-    /// @}
-
-    bool doElementStart(char const* name, char const** attributes) override;
-    bool doElementData(char const* data, int length) override;
-    bool doElementEnd(char const* name) override;
-
-private:
-    enum state : int { map_in_root = 0, map_in_entry = 1, map_start = 2 };
-
-    ustring head_;
-    boost::shared_ptr<boost::unordered::unordered_set<ustring>> keys_;
-    std::deque<int> states_{map_start};
-    codecvt_ascii_to_ustring widen_{false};
-};
 
 namespace UnitTest {
 

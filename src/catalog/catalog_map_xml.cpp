@@ -1,4 +1,4 @@
-#include <fl/i18n/message_id_completion.hpp>
+#include <fl/i18n/catalog_map_xml.hpp>
 
 #include <cstring>
 #include <string_view>

@@ -1,4 +1,7 @@
 #include <fl/i18n/catalog_xml.hpp>
+#include <fl/i18n/codecvt_ascii.hpp>
+
+#include <boost/make_shared.hpp>
 
 #include <utility>
 
@@ -28,6 +31,14 @@ bool is_category_attribute(char const* name) noexcept {
 } // namespace
 
 MessageCatalogDataStore::~MessageCatalogDataStore() = default;
+
+MessageCatalogFileLoader::~MessageCatalogFileLoader() = default;
+
+XMLCatalogFileLoader::~XMLCatalogFileLoader() = default;
+
+bool XMLCatalogFileLoader::loadFile(filesystem::upath const& path, MessageCatalogDataStore& store) {
+    return ExpatLoader(path, boost::make_shared<MessageCatalogExpatEventHandler>(&store)).load_file();
+}
 
 MessageCatalogExpatEventHandler::MessageCatalogExpatEventHandler(MessageCatalogDataStore* store)
     : ExpatEventHandler("UTF-8"),
@@ -112,6 +123,20 @@ char const* MessageCatalogExpatEventHandler::getLocaleAttribute() noexcept {
 }
 char const* MessageCatalogExpatEventHandler::getEntryKeyStr() noexcept {
     return key_attribute;
+}
+
+ustring MessageCatalogUtility::obtainXMLFilePathPattern(std::string const& id) {
+    std::size_t const first = id.find(':');
+    if (first == std::string::npos || id.back() == ':')
+        return ustring();
+    std::string pattern = id.substr(0, first) + "/%S";
+    for (std::size_t begin = first; begin != std::string::npos;) {
+        std::size_t const end = id.find(':', begin + 1);
+        pattern.append("/").append(id, begin + 1, end == std::string::npos ? end : end - begin - 1);
+        begin = end;
+    }
+    pattern += ".xml";
+    return codecvt_ascii_to_ustring(false).convert(pattern.data(), pattern.size());
 }
 
 } // namespace fl::i18n

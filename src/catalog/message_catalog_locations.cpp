@@ -1,12 +1,14 @@
 // Resource locations that come and go while the process runs.
 
 #include "catalog/catalog_registry.hpp"
-#include "catalog/catalog_scan.hpp"
 #include "support/raise.hpp"
 
+#include <fl/filesystem/directory_iterator.hpp>
+#include <fl/i18n/codecvt_ascii.hpp>
 #include <fl/i18n/message_catalog.hpp>
 
 #include <algorithm>
+#include <deque>
 #include <exception>
 #include <optional>
 
@@ -15,6 +17,8 @@ namespace fl::i18n {
 namespace {
 
 using filesystem::upath;
+using filesystem::upath_directory_entry;
+using filesystem::upath_directory_iterator;
 using location_list = std::vector<resource_location>;
 
 resource_location additional_location(ustring const& root) {
@@ -25,6 +29,56 @@ resource_location additional_location(ustring const& root) {
 
 bool contains(location_list const& list, upath const& path, bool additional) {
     return std::find(list.begin(), list.end(), resource_location{path, additional}) != list.end();
+}
+
+std::string ascii_stem(upath_directory_entry const& entry) {
+    ustring const stem =
+        filesystem::detail::extract_stem(filesystem::detail::make_native_form(entry.filename(), 1));
+    return codecvt_ustring_to_ascii(false).convert(stem.data(), stem.size());
+}
+
+bool is_directory_itself(upath_directory_entry const& entry) {
+    return entry.type() == filesystem::file_status::directory_file;
+}
+
+/// A directory to look at, and what the identifiers of its catalogs begin with.
+struct pending_directory {
+    ustring name;
+    std::string prefix;
+};
+
+/// The identifiers of the catalogs in the directory and below. Directories wait in a list: how deep they lie
+/// is not ours to trust.
+std::vector<std::string> scanCatalogNames(pending_directory top) {
+    std::vector<std::string> catalogs;
+    std::deque<pending_directory> pending;
+    pending.push_back(std::move(top));
+    for (; !pending.empty(); pending.pop_front()) {
+        pending_directory const& directory = pending.front();
+        for (upath_directory_entry const& entry : upath_directory_iterator(directory.name)) {
+            if (is_directory_itself(entry))
+                pending.push_back({entry.full_pathname(), directory.prefix + ':' + ascii_stem(entry)});
+            else if (filesystem::detail::extract_extension(entry.filename()) == u".xml")
+                catalogs.push_back(directory.prefix + ':' + ascii_stem(entry));
+        }
+    }
+    return catalogs;
+}
+
+/// Calls `use` with the identifier of each catalog that has an English file below `location`, component after
+/// component: "resources/a/en/b/c.xml" gives "a:b:c". Other locales are not looked at, links to directories
+/// not followed, and the identifiers not checked. Throws where a directory cannot be read, a component has no
+/// English directory, or a name is not ASCII, and what `use` throws.
+template <class Use>
+void scan_catalogs(upath const& location, Use const& use) {
+    for (upath_directory_entry const& entry : upath_directory_iterator(location)) {
+        if (!is_directory_itself(entry))
+            continue;
+        ustring english = entry.full_pathname();
+        english += filesystem::upath_constant::PATHNAME_SEPARATOR;
+        for (std::string const& catalog : scanCatalogNames({english += u"en", ascii_stem(entry)}))
+            use(catalog);
+    }
 }
 
 /// Only by their English files are the catalogs of a location known: each has one.
