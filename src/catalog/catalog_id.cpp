@@ -38,8 +38,6 @@ bool isValidIDFormat(std::string_view id) noexcept {
 
 } // namespace
 
-CatalogID::badCatalogIDException::~badCatalogIDException() = default;
-
 char const* CatalogID::badCatalogIDException::what() const noexcept {
     return "Bad Catalog ID";
 }
@@ -87,8 +85,6 @@ std::string CatalogID::getCatalogID() const {
 char const* CatalogID::getCatalogIDStr() const noexcept {
     return catalogId_.c_str();
 }
-
-MessageID::badMessageIDException::~badMessageIDException() = default;
 
 char const* MessageID::badMessageIDException::what() const noexcept {
     return "Bad Message ID";

@@ -30,10 +30,6 @@ public:
     /// The text is no catalog identifier. `what()` is a constant that does not repeat the text.
     class FL_I18N_EXPORT badCatalogIDException : public std::exception {
     public:
-        badCatalogIDException() noexcept = default;
-        badCatalogIDException(badCatalogIDException const&) noexcept = default;
-        badCatalogIDException& operator=(badCatalogIDException const&) noexcept = default;
-        ~badCatalogIDException() override;
         /// "Bad Catalog ID"; valid for the life of the process.
         char const* what() const noexcept override;
     };
@@ -74,10 +70,6 @@ public:
     /// The text is no message identifier. `what()` is a constant that does not repeat the text.
     class FL_I18N_EXPORT badMessageIDException : public std::exception {
     public:
-        badMessageIDException() noexcept = default;
-        badMessageIDException(badMessageIDException const&) noexcept = default;
-        badMessageIDException& operator=(badMessageIDException const&) noexcept = default;
-        ~badMessageIDException() override;
         /// "Bad Message ID"; valid for the life of the process.
         char const* what() const noexcept override;
     };
