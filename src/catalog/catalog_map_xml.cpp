@@ -1,5 +1,7 @@
 #include <fl/i18n/catalog_map_xml.hpp>
 
+#include <boost/unordered_set.hpp>
+
 #include <cstring>
 #include <string_view>
 #include <utility>

@@ -8,7 +8,7 @@
 /// Such a file is XML in UTF-8: a root element `MessageCatalogMap` with elements `entry`, whose attribute
 /// "key" is a catalog identifier. <fl/i18n/message_id_completion.hpp> says where they lie.
 ///
-/// A handler serves one thread.
+/// The set is only declared here: callers include <boost/unordered_set.hpp>. A handler serves one thread.
 #pragma once
 
 #include <fl/i18n/codecvt_ascii.hpp>
@@ -17,9 +17,9 @@
 #include <fl/i18n/ustring.hpp>
 
 #include <boost/shared_ptr.hpp>
-#include <boost/unordered_set.hpp>
+#include <boost/unordered/unordered_set_fwd.hpp>
 
-#include <deque>
+#include <vector>
 
 namespace fl::i18n {
 
@@ -53,7 +53,7 @@ private:
 
     ustring head_;
     boost::shared_ptr<boost::unordered::unordered_set<ustring>> keys_;
-    std::deque<int> states_{map_start};
+    std::vector<int> states_{map_start};
     codecvt_ascii_to_ustring widen_{false};
 };
 

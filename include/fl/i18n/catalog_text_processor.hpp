@@ -5,6 +5,8 @@
 ///     for (std::string_view const chunk : {"  Total:", "\n", "   {0} Euro"})
 ///         text.add_chunk(chunk);
 ///     text.extract_complete_message(); // "Total: {0} Euro"
+///
+/// An object serves one thread.
 #pragma once
 
 #include <fl/i18n/export.hpp>

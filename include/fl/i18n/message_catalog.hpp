@@ -7,7 +7,7 @@
 /// object.
 ///
 ///     using fl::i18n::MessageCatalog;
-///     MessageCatalog::MessageCatalogInit(fl::ustring(u"/opt/shop")); // has resources/shop/de/checkout.xml
+///     MessageCatalog::MessageCatalogInit(u"/opt/shop"); // has resources/shop/de/checkout.xml
 ///     fl::ustring const text = MessageCatalog::get_message(fl::i18n::MessageID("shop:checkout:total"));
 ///
 /// A text may have holes in the pattern language of ICU's `MessageFormat`, such as "{0} of {1}". They are
@@ -19,7 +19,6 @@
 /// `boost::exception_ptr` or `std::exception_ptr`.
 #pragma once
 
-#include <fl/filesystem/path.hpp>
 #include <fl/i18n/catalog_id.hpp>
 #include <fl/i18n/export.hpp>
 #include <fl/i18n/idbase.hpp>
@@ -27,21 +26,14 @@
 
 #include <boost/noncopyable.hpp>
 
-#include <functional>
 #include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace fl::i18n {
 
 class QnLocale;
-
-/// Fills holes in place: called with the list of all hole values and, for one hole, its custom type (empty if
-/// the name has none) and its number. It may write any element of the list. The reference in the pair is
-/// valid during the call only.
-using hole_fill_function =
-    std::function<void(std::vector<hole_value>&, std::pair<ustring const&, unsigned long const> const&)>;
+class hole_fill_function; // <fl/i18n/hole_fill_function.hpp>
 
 /// A loaded catalog, read-only, and the home of the process-wide catalog functions.
 ///
@@ -180,8 +172,9 @@ public:
     /// a letter nor a digit throws `std::invalid_argument`, a number too large `std::out_of_range`.
     static ustring GetFormattedMessage(ustring const& message, std::vector<hole_value> const& holes);
 
-    /// Fills the holes of `message` with values that a function provides: `fill` is called once for each
-    /// hole, in the order of the numbers, on a list of `holeCount` empty texts. Its exceptions pass through.
+    /// Fills the holes of `message` with values that a function provides, for which callers include
+    /// <fl/i18n/hole_fill_function.hpp>. `fill` is called once for each hole, in the order of the numbers, on
+    /// a list of `holeCount` empty texts. Its exceptions pass through.
     ///
     /// A message with named holes takes no values by this form; it comes back unformatted if `holeCount` is
     /// 0. The list is made first: an absurd `holeCount` throws `std::length_error` or `std::bad_alloc`.

@@ -8,9 +8,8 @@
 ///     // completions {"cart:", "catalogue:"}, position 5: each replaces the text from there on
 ///
 /// Catalogs are known by an index beside the resources: for a location "root/resources" the files
-/// "root/derived/share/resources/<component>/.../catalog_map.xml". Such a file is XML in UTF-8: a root
-/// element `MessageCatalogMap` with elements `entry`, whose attribute "key" is a catalog identifier. Keys
-/// come from the catalog itself, in the global locale.
+/// "root/derived/share/resources/<component>/.../catalog_map.xml", for which see
+/// <fl/i18n/catalog_map_xml.hpp>. Keys come from the catalog itself, in the global locale.
 #pragma once
 
 #include <fl/i18n/export.hpp>
@@ -32,10 +31,14 @@ struct message_id_completions {
 /// The completions of `input`, which is compared without case behind its last colon and with case before it.
 /// Where nothing fits the list is empty and the position that of the input.
 ///
-/// Never throws: when anything fails the list is empty and the position 0, as before the resource locations
-/// are set, or for a letter outside ASCII before the last colon (behind it only where the catalog exists), or
-/// where that catalog has a key with such a letter in the part that is compared, which is the whole key where
-/// nothing is typed behind the colon. Reads the disk at every call. Thread-safe.
+/// Never throws. When anything fails the list is empty and the position 0. It fails
+///
+/// - before the resource locations are set;
+/// - for a letter outside ASCII before the last colon, and behind it where the catalog exists;
+/// - where that catalog has a key with such a letter in the part that is compared, which is the whole key
+///   where nothing is typed behind the colon.
+///
+/// Reads the disk at every call. Thread-safe.
 FL_I18N_EXPORT message_id_completions getMessageIdCompletions(ustring const& input);
 
 namespace UnitTest {
