@@ -1,12 +1,13 @@
 #include "catalog/catalog_map.hpp"
 
+#include "support/never_destroyed.hpp"
+
 #include <fl/filesystem/directory_iterator.hpp>
 #include <fl/filesystem/exceptions.hpp>
 #include <fl/filesystem/file_status.hpp>
 
 #include <algorithm>
 #include <deque>
-#include <memory>
 #include <set>
 
 namespace fl::i18n {
@@ -22,11 +23,10 @@ constexpr std::u16string_view map_file_name = u"catalog_map.xml";
 
 /// Where the index lies, relative to a resource location.
 ustring& map_path() {
-    static ustring& path =
-        *std::make_unique<ustring>(PARENT_DIRECTORY + PATHNAME_SEPARATOR + u"derived" + PATHNAME_SEPARATOR +
-                                   u"share" + PATHNAME_SEPARATOR + u"resources" + PATHNAME_SEPARATOR)
-             .release();
-    return path;
+    static support::never_destroyed<ustring> path(PARENT_DIRECTORY + PATHNAME_SEPARATOR + u"derived" +
+                                                  PATHNAME_SEPARATOR + u"share" + PATHNAME_SEPARATOR +
+                                                  u"resources" + PATHNAME_SEPARATOR);
+    return *path;
 }
 
 /// Whether a file is there; what cannot even be asked for is not, such as a link to itself.

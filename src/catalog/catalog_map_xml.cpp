@@ -2,7 +2,6 @@
 
 #include <boost/unordered_set.hpp>
 
-#include <cstring>
 #include <string_view>
 #include <utility>
 
@@ -33,7 +32,7 @@ bool MetaInfoExpatEventHandler::process_entry_tag(char const** attributes) {
         char const* const key = *attributes;
         if (!key)
             return false;
-        keys_->insert(widen_.convert(key, std::strlen(key)));
+        keys_->insert(widen_.convert(key));
         ++attributes;
     }
     return true;

@@ -1,5 +1,6 @@
 #include "catalog/catalog_registry.hpp"
 
+#include "support/never_destroyed.hpp"
 #include "support/raise.hpp"
 
 #include <fl/i18n/catalog_xml.hpp>
@@ -30,8 +31,8 @@ catalog_file find_catalog_file(std::string const& catalog, QnLocale const& local
 } // namespace
 
 catalog_registry& get_catalog_registry() {
-    static catalog_registry& registry = *std::make_unique<catalog_registry>().release();
-    return registry;
+    static support::never_destroyed<catalog_registry> registry;
+    return *registry;
 }
 
 std::shared_ptr<MessageCatalog> load_catalog(catalog_cache& cache, std::string const& catalog,

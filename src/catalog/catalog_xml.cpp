@@ -1,5 +1,6 @@
+#include "conversion/codecs/ascii_text.hpp"
+
 #include <fl/i18n/catalog_xml.hpp>
-#include <fl/i18n/codecvt_ascii.hpp>
 
 #include <boost/make_shared.hpp>
 
@@ -136,7 +137,7 @@ ustring MessageCatalogUtility::obtainXMLFilePathPattern(std::string const& id) {
         begin = end;
     }
     pattern += ".xml";
-    return codecvt_ascii_to_ustring(false).convert(pattern.data(), pattern.size());
+    return detail::from_ascii(pattern);
 }
 
 } // namespace fl::i18n

@@ -1,10 +1,10 @@
 // Resource locations that come and go while the process runs.
 
 #include "catalog/catalog_registry.hpp"
+#include "conversion/codecs/ascii_text.hpp"
 #include "support/raise.hpp"
 
 #include <fl/filesystem/directory_iterator.hpp>
-#include <fl/i18n/codecvt_ascii.hpp>
 #include <fl/i18n/message_catalog.hpp>
 
 #include <algorithm>
@@ -32,9 +32,8 @@ bool contains(location_list const& list, upath const& path, bool additional) {
 }
 
 std::string ascii_stem(upath_directory_entry const& entry) {
-    ustring const stem =
-        filesystem::detail::extract_stem(filesystem::detail::make_native_form(entry.filename(), 1));
-    return codecvt_ustring_to_ascii(false).convert(stem.data(), stem.size());
+    return detail::to_ascii(
+        filesystem::detail::extract_stem(filesystem::detail::make_native_form(entry.filename(), 1)));
 }
 
 bool is_directory_itself(upath_directory_entry const& entry) {

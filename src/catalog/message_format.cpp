@@ -1,11 +1,12 @@
 #include "catalog/message_format.hpp"
 
+#include "conversion/codecs/ascii_text.hpp"
+#include "support/icu_length.hpp"
 #include "support/raise.hpp"
 
-#include <fl/i18n/codecvt_ascii.hpp>
 #include <fl/i18n/message_catalog.hpp>
 
-#include <boost/numeric/conversion/cast.hpp>
+#include <boost/numeric/conversion/converter_policies.hpp>
 #include <unicode/fieldpos.h>
 #include <unicode/fmtable.h>
 #include <unicode/locid.h>
@@ -28,8 +29,12 @@ void check(UErrorCode status) {
         support::raise(MessageCatalog::MessageFormatIncorrect());
 }
 
-std::int32_t icu_length(std::size_t length) {
-    return boost::numeric_cast<std::int32_t>(length);
+[[noreturn]] void raise_overflow() {
+    support::raise(boost::numeric::positive_overflow());
+}
+
+std::int32_t in_icu_range(std::size_t value) {
+    return support::to_icu_length(value, raise_overflow);
 }
 
 /// ICU follows arguments within arguments ("{0,select,other{...}}") by recursion, at some kilobytes of stack
@@ -85,8 +90,7 @@ void check_complexity(icu::UnicodeString const& pattern) {
 
 /// The number at the start of a name; what follows the digits is not looked at, but has to be ASCII.
 unsigned long leading_number(char16_t const* name, std::int32_t length) {
-    codecvt_ustring_to_ascii const to_ascii(false);
-    return std::stoul(to_ascii.convert(name, static_cast<unsigned long>(length)));
+    return std::stoul(to_ascii({name, static_cast<std::size_t>(length)}));
 }
 
 hole_names names_in_pattern(icu::MessageFormat& format) {
@@ -130,12 +134,12 @@ icu::Formattable to_formattable(long long value) {
 
 icu::Formattable to_formattable(std::string const& value) {
     return icu::Formattable(
-        icu::UnicodeString::fromUTF8(icu::StringPiece(value.data(), icu_length(value.size()))));
+        icu::UnicodeString::fromUTF8(icu::StringPiece(value.data(), in_icu_range(value.size()))));
 }
 
 icu::Formattable to_formattable(ustring const& value) {
     return icu::Formattable(
-        icu::UnicodeString(false, value.data(), icu_length(value.size()))); // copies the text
+        icu::UnicodeString(false, value.data(), in_icu_range(value.size()))); // copies the text
 }
 
 std::vector<icu::Formattable> to_formattables(std::vector<hole_value> const& holes) {
@@ -152,12 +156,12 @@ icu::UnicodeString format_values(icu::MessageFormat const& format,
     UErrorCode status = U_ZERO_ERROR;
     if (names && !values.empty()) {
         // ICU reads as many names as it is given values.
-        auto const count = icu_length(std::min(values.size(), names->size()));
+        auto const count = in_icu_range(std::min(values.size(), names->size()));
         format.format(names->data(), values.data(), count, result, status);
     } else {
         icu::FieldPosition position;
         auto const* const first = values.empty() ? nullptr : values.data();
-        format.format(first, icu_length(values.size()), result, position, status);
+        format.format(first, in_icu_range(values.size()), result, position, status);
     }
     check(status);
     return result;
@@ -166,7 +170,7 @@ icu::UnicodeString format_values(icu::MessageFormat const& format,
 } // namespace
 
 icu::MessageFormat makeMessageFormat(ustring const& message) {
-    icu::UnicodeString const text(false, message.data(), icu_length(message.size()));
+    icu::UnicodeString const text(false, message.data(), in_icu_range(message.size()));
     UErrorCode quote_status = U_ZERO_ERROR;
     auto const pattern = icu::MessageFormat::autoQuoteApostrophe(text, quote_status);
     check(quote_status);
@@ -198,7 +202,7 @@ hole_name_info parseHoleName(icu::UnicodeString const& name) {
     ustring custom_type;
     if (is_custom)
         custom_type.assign(name.getBuffer() + separator + 1, name.getBuffer() + name.length());
-    return {std::move(custom_type), boost::numeric_cast<std::int32_t>(number)};
+    return {std::move(custom_type), in_icu_range(number)};
 }
 
 ustring formatHoles(icu::MessageFormat const& format, std::vector<hole_value> const& holes,

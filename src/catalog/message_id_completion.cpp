@@ -1,10 +1,10 @@
 #include "catalog/catalog_map.hpp"
+#include "conversion/codecs/ascii_text.hpp"
 #include "support/ascii.hpp"
 #include "support/raise.hpp"
 
 #include <fl/i18n/catalog_id.hpp>
 #include <fl/i18n/catalog_map_xml.hpp>
-#include <fl/i18n/codecvt_ascii.hpp>
 #include <fl/i18n/compare.hpp>
 #include <fl/i18n/ctype_exceptions.hpp>
 #include <fl/i18n/message_catalog_impl.hpp>
@@ -42,14 +42,6 @@ struct parted_input {
     std::u16string_view head_with_colon;
     std::u16string_view tail;
 };
-
-std::string to_ascii(std::u16string_view text) {
-    return codecvt_ustring_to_ascii(false).convert(text.data(), text.size());
-}
-
-ustring from_ascii(std::string_view text) {
-    return codecvt_ascii_to_ustring(false).convert(text.data(), text.size());
-}
 
 /// The text by which callers know a catalog, whose own name is `catalog`: what `makeInternalCatalogName`
 /// turns into that name.
@@ -96,7 +88,7 @@ void add_parts(std::vector<ustring>& completions, std::vector<ustring> const& pa
                parted_input const& input) {
     for (ustring const& part : parts) {
         ustring const name = ustring(input.head_with_colon) + part;
-        ustring const text = from_ascii(toExternalCatalogText(to_ascii(name)));
+        ustring const text = detail::from_ascii(toExternalCatalogText(detail::to_ascii(name)));
         if (begins_with(text, input.whole))
             completions.push_back(text.substr(input.position) + u':');
     }
@@ -116,12 +108,12 @@ bool key_begins_with(std::string_view key, std::string_view beginning) {
 
 /// Where the head is no catalog, or one that does not load, there are no keys.
 void add_keys(std::vector<ustring>& completions, parted_input const& input) try {
-    CatalogID const id(idbase::makeInternalCatalogName(to_ascii(input.head())));
+    CatalogID const id(idbase::makeInternalCatalogName(detail::to_ascii(input.head())));
     std::shared_ptr<MessageCatalog> const catalog = MessageCatalog::GetMessageCatalog(id);
-    std::string const beginning = to_ascii(input.tail);
+    std::string const beginning = detail::to_ascii(input.tail);
     for (std::string const& key : catalog->get_all_keys())
         if (key_begins_with(key, beginning))
-            completions.push_back(from_ascii(key));
+            completions.push_back(detail::from_ascii(key));
 } catch (MessageCatalog::MessageCatalogLoadFailed const&) {
 } catch (CatalogID::badCatalogIDException const&) {
 }

@@ -1,3 +1,5 @@
+#include "support/ascii.hpp"
+
 #include <fl/filesystem/file_status.hpp>
 #include <fl/i18n/locale_fallback.hpp>
 #include <fl/i18n/resource_finder.hpp>
@@ -15,13 +17,6 @@ using filesystem::upath;
 namespace upath_constant = filesystem::upath_constant;
 
 constexpr char16_t default_marker[] = u"%S";
-
-std::string narrow(ustring const& name) {
-    std::string result(name.size(), '\0');
-    std::transform(name.begin(), name.end(), result.begin(),
-                   [](char16_t unit) { return static_cast<char>(unit); });
-    return result;
-}
 
 /// Without the fallback to the classic language, the file without a locale comes last.
 std::vector<ustring> make_locale_list(QnLocale const& locale, bool use_fallback) {
@@ -108,7 +103,8 @@ upath search_for(QnLocale const& locale, bool use_fallback, ustring const& patte
     std::vector<ustring> const locales = make_locale_list(locale, use_fallback);
     std::int32_t index = 0;
     upath found = search(pattern, marker, locales, locate, index);
-    found_locale = found.empty() ? std::string() : narrow(locales[static_cast<std::size_t>(index)]);
+    found_locale =
+        found.empty() ? std::string() : support::narrowed(locales[static_cast<std::size_t>(index)]);
     return found;
 }
 
@@ -164,13 +160,14 @@ upath resource_finder::find(ustring const& pattern, QnLocale const& locale, ustr
                             std::string& foundLocale) const {
     std::vector<ustring> const locales = make_locale_list(locale, use_fallback_);
     upath found = search(pattern, formatter, locales, below{base_paths_}, found_index_);
-    foundLocale = found.empty() ? std::string() : narrow(locales.front());
+    foundLocale = found.empty() ? std::string() : support::narrowed(locales.front());
     return found;
 }
 
 std::string resource_finder::get_locale() const {
     auto const index = static_cast<std::size_t>(found_index_);
-    return found_index_ >= 0 && index < locale_list_.size() ? narrow(locale_list_[index]) : std::string();
+    return found_index_ >= 0 && index < locale_list_.size() ? support::narrowed(locale_list_[index])
+                                                            : std::string();
 }
 
 upath resource_finder::find_resource(std::vector<upath> const& basePaths, ustring const& pattern,
