@@ -3,7 +3,7 @@
 #include <utility>
 #include <vector>
 
-namespace fl::i18n {
+namespace fl::i18n::detail {
 
 std::string catalog_cache::key(std::string_view catalog, std::string_view locale) {
     std::string result;
@@ -12,7 +12,7 @@ std::string catalog_cache::key(std::string_view catalog, std::string_view locale
 }
 
 catalog_cache::handle catalog_cache::find(std::string const& key) {
-    std::lock_guard const lock(mutex_);
+    support::mutex_lock const lock(mutex_);
     auto const place = entries_.find(key);
     if (place == entries_.end())
         return nullptr;
@@ -21,25 +21,25 @@ catalog_cache::handle catalog_cache::find(std::string const& key) {
 }
 
 catalog_cache::handle catalog_cache::peek(std::string const& key) const {
-    std::lock_guard const lock(mutex_);
+    support::mutex_lock const lock(mutex_);
     auto const place = entries_.find(key);
     return place == entries_.end() ? nullptr : place->second.catalog;
 }
 
 std::uint64_t catalog_cache::flush_count() const {
-    std::lock_guard const lock(mutex_);
+    support::mutex_lock const lock(mutex_);
     return flush_count_;
 }
 
 void catalog_cache::insert(std::string const& key, handle catalog, std::uint64_t count) {
-    std::lock_guard const lock(mutex_);
+    support::mutex_lock const lock(mutex_);
     if (count == flush_count_)
         entries_.emplace(key, entry{std::move(catalog)});
 }
 
 void catalog_cache::flush(std::string_view catalog) {
     std::vector<handle> dropped; // destroyed behind the lock: freeing a catalog takes a while
-    std::lock_guard const lock(mutex_);
+    support::mutex_lock const lock(mutex_);
     ++flush_count_;
     for (auto place = entries_.begin(); place != entries_.end();) {
         std::size_t const colon = place->first.rfind(':');
@@ -52,4 +52,4 @@ void catalog_cache::flush(std::string_view catalog) {
     }
 }
 
-} // namespace fl::i18n
+} // namespace fl::i18n::detail

@@ -1,17 +1,18 @@
 /// Loaded catalogs by catalog identifier and locale.
 #pragma once
 
+#include "support/mutex.hpp"
+
 #include <fl/i18n/message_catalog.hpp>
 
 #include <boost/unordered_map.hpp>
 
 #include <cstdint>
 #include <memory>
-#include <mutex>
 #include <string>
 #include <string_view>
 
-namespace fl::i18n {
+namespace fl::i18n::detail {
 
 /// Thread-safe by a mutex of its own, which no function holds while it calls anything else: it may be taken
 /// under `catalog_registry_mutex`, never the other way round.
@@ -44,9 +45,9 @@ private:
         std::uint32_t hits = 1;
     };
 
-    mutable std::mutex mutex_;
-    boost::unordered_map<std::string, entry> entries_;
-    std::uint64_t flush_count_ = 0;
+    mutable support::mutex mutex_;
+    boost::unordered_map<std::string, entry> entries_ FL_GUARDED_BY(mutex_);
+    std::uint64_t flush_count_ FL_GUARDED_BY(mutex_) = 0;
 };
 
-} // namespace fl::i18n
+} // namespace fl::i18n::detail

@@ -10,7 +10,7 @@
 #include <deque>
 #include <set>
 
-namespace fl::i18n {
+namespace fl::i18n::detail {
 
 namespace {
 
@@ -134,4 +134,4 @@ void place_catalog_maps(ustring const& path) {
     map_path() = path;
 }
 
-} // namespace fl::i18n
+} // namespace fl::i18n::detail

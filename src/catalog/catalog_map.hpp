@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-namespace fl::i18n {
+namespace fl::i18n::detail {
 
 /// The directory of the index that belongs to a resource location.
 filesystem::upath catalog_map_directory(filesystem::upath const& location);
@@ -23,4 +23,4 @@ std::vector<filesystem::upath> catalog_maps_for(filesystem::upath const& locatio
 /// Moves the index, for tests: `path`, relative to a resource location. Not while another thread completes.
 void place_catalog_maps(ustring const& path);
 
-} // namespace fl::i18n
+} // namespace fl::i18n::detail

@@ -7,7 +7,7 @@
 #include <fl/i18n/message_catalog_impl.hpp>
 #include <fl/i18n/resource_finder.hpp>
 
-namespace fl::i18n {
+namespace fl::i18n::detail {
 
 namespace {
 
@@ -30,13 +30,12 @@ catalog_file find_catalog_file(std::string const& catalog, QnLocale const& local
 
 } // namespace
 
-catalog_registry& get_catalog_registry() {
-    static support::never_destroyed<catalog_registry> registry;
-    return *registry;
+void catalog_registry::publish(std::vector<resource_location> locations) {
+    locations_.publish(std::move(locations));
 }
 
-std::shared_ptr<MessageCatalog> load_catalog(catalog_cache& cache, std::string const& catalog,
-                                             QnLocale const& locale, std::string const& key) {
+std::shared_ptr<MessageCatalog> catalog_registry::load(std::string const& catalog, QnLocale const& locale,
+                                                       std::string const& key) {
     std::uint64_t const flush_count = cache.flush_count();
     catalog_file const file = find_catalog_file(catalog, locale);
     std::string const found_key = catalog_cache::key(catalog, file.locale);
@@ -54,4 +53,9 @@ std::shared_ptr<MessageCatalog> load_catalog(catalog_cache& cache, std::string c
     return loaded;
 }
 
-} // namespace fl::i18n
+catalog_registry& get_catalog_registry() {
+    static support::never_destroyed<catalog_registry> registry;
+    return *registry;
+}
+
+} // namespace fl::i18n::detail

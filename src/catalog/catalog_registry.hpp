@@ -3,28 +3,39 @@
 
 #include "catalog/catalog_cache.hpp"
 #include "catalog/resource_locations.hpp"
+#include "support/mutex.hpp"
 
-#include <mutex>
+#include <memory>
+#include <string>
+#include <vector>
 
-namespace fl::i18n {
+namespace fl::i18n::detail {
 
-struct catalog_registry {
-    /// Guards every change of `locations`, and the whole of a look-up of a catalog: on a miss it is held
+class catalog_registry {
+public:
+    /// Guards every change of the locations, and the whole of a look-up of a catalog: on a miss it is held
     /// through the search for the file and the load, so that no file is ever loaded twice at once. Not
     /// recursive.
-    std::mutex catalog_registry_mutex;
-    resource_locations locations;
+    support::mutex catalog_registry_mutex;
+
     catalog_cache cache;
+
+    /// Where catalogs are searched. Needs no lock, and the reference stays good when the list is replaced.
+    std::vector<resource_location> const& locations() const noexcept { return locations_.current(); }
+
+    void publish(std::vector<resource_location> locations) FL_REQUIRES(catalog_registry_mutex);
+
+    /// Answers a cache miss on `key`. A catalog that belongs to a fallback locale is entered under that
+    /// locale's key as well, so that all locales which fall back to it share one object.
+    std::shared_ptr<MessageCatalog> load(std::string const& catalog, QnLocale const& locale,
+                                         std::string const& key) FL_REQUIRES(catalog_registry_mutex);
+
+private:
+    resource_locations locations_;
 };
 
 /// The one registry, made at first use. It is never destroyed: other threads may still look messages up while
 /// the process exits.
 catalog_registry& get_catalog_registry();
 
-/// Answers a cache miss; the caller holds `catalog_registry_mutex`. A catalog that belongs to a fallback
-/// locale is entered under that locale's key as well, so that all locales which fall back to it share one
-/// object.
-std::shared_ptr<MessageCatalog> load_catalog(catalog_cache& cache, std::string const& catalog,
-                                             QnLocale const& locale, std::string const& key);
-
-} // namespace fl::i18n
+} // namespace fl::i18n::detail

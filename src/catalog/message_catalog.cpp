@@ -12,10 +12,12 @@ namespace fl::i18n {
 
 namespace {
 
+using detail::resource_location;
+
 std::vector<resource_location> find_resource_directories(std::vector<ustring> const& roots) {
     std::vector<resource_location> locations;
     for (ustring const& root : roots)
-        if (std::optional<resource_location> location = find_resource_directory(root, false))
+        if (std::optional<resource_location> location = detail::find_resource_directory(root, false))
             locations.push_back(std::move(*location));
     return locations;
 }
@@ -25,9 +27,9 @@ std::vector<resource_location> find_resource_directories(std::vector<ustring> co
 MessageCatalog::~MessageCatalog() = default;
 
 bool MessageCatalog::MessageCatalogInit(std::vector<ustring> const& roots) {
-    catalog_registry& registry = get_catalog_registry();
-    std::lock_guard const lock(registry.catalog_registry_mutex);
-    std::vector<resource_location> const& current = registry.locations.current();
+    detail::catalog_registry& registry = detail::get_catalog_registry();
+    support::mutex_lock const lock(registry.catalog_registry_mutex);
+    std::vector<resource_location> const& current = registry.locations();
     bool const is_first = current.empty();
     if (is_first && roots.empty())
         support::raise(MessageCatalogIncorrectRoot());
@@ -36,7 +38,7 @@ bool MessageCatalog::MessageCatalogInit(std::vector<ustring> const& roots) {
         return locations == current;
     if (locations.empty())
         support::raise(MessageCatalogIncorrectRoot());
-    registry.locations.publish(std::move(locations));
+    registry.publish(std::move(locations));
     return true;
 }
 
@@ -64,15 +66,15 @@ bool MessageCatalog::MessageCatalogInit(ustring const& root,
 
 std::shared_ptr<MessageCatalog> MessageCatalog::GetMessageCatalog(CatalogID const& id,
                                                                   QnLocale const& locale) {
-    catalog_registry& registry = get_catalog_registry();
-    if (registry.locations.current().empty())
+    detail::catalog_registry& registry = detail::get_catalog_registry();
+    if (registry.locations().empty())
         MessageCatalogInit(filesystem::get_install_path());
     std::string_view const catalog = id.getCatalogIDStr();
-    std::string const key = catalog_cache::key(catalog, locale.shortName(QnLocale::messages));
-    std::lock_guard const lock(registry.catalog_registry_mutex);
+    std::string const key = detail::catalog_cache::key(catalog, locale.shortName(QnLocale::messages));
+    support::mutex_lock const lock(registry.catalog_registry_mutex);
     if (std::shared_ptr<MessageCatalog> cached = registry.cache.find(key))
         return cached;
-    return load_catalog(registry.cache, std::string(catalog), locale, key);
+    return registry.load(std::string(catalog), locale, key);
 }
 
 std::shared_ptr<MessageCatalog> MessageCatalog::GetMessageCatalog(CatalogID const& id) {
@@ -111,7 +113,7 @@ ustring MessageCatalog::get_default_locale_message(idbase::BaseMsgID const& id) 
 
 void MessageCatalog::FlushCatalogFromCache(CatalogID const& id) {
     // Not under catalog_registry_mutex: a caller that holds it may flush.
-    get_catalog_registry().cache.flush(id.getCatalogIDStr());
+    detail::get_catalog_registry().cache.flush(id.getCatalogIDStr());
 }
 
 } // namespace fl::i18n

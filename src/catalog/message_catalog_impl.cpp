@@ -76,12 +76,12 @@ std::string MessageCatalogImpl::get_catalog_name() const {
 }
 
 std::vector<filesystem::upath> MessageCatalogImpl::getTopLevelResourceLocations() {
-    std::vector<resource_location> const& locations = get_catalog_registry().locations.current();
+    std::vector<detail::resource_location> const& locations = detail::get_catalog_registry().locations();
     if (locations.empty())
         support::raise(MessageCatalogNotInitialized());
     std::vector<filesystem::upath> paths;
     paths.reserve(locations.size());
-    for (resource_location const& location : locations)
+    for (detail::resource_location const& location : locations)
         paths.push_back(location.path);
     return paths;
 }

@@ -16,13 +16,14 @@ namespace fl::i18n {
 
 namespace {
 
+using detail::resource_location;
 using filesystem::upath;
 using filesystem::upath_directory_entry;
 using filesystem::upath_directory_iterator;
 using location_list = std::vector<resource_location>;
 
 resource_location additional_location(ustring const& root) {
-    if (std::optional<resource_location> location = find_resource_directory(root, true))
+    if (std::optional<resource_location> location = detail::find_resource_directory(root, true))
         return std::move(*location);
     support::raise(MessageCatalog::MessageCatalogIncorrectRoot());
 }
@@ -82,7 +83,7 @@ void scan_catalogs(upath const& location, Use const& use) {
 
 /// Only by their English files are the catalogs of a location known: each has one.
 void flush_catalogs_of(upath const& location) {
-    if (!is_directory(location))
+    if (!detail::is_directory(location))
         support::raise(MessageCatalog::ResDirNotPresent());
     try {
         scan_catalogs(location, [](std::string const& catalog) {
@@ -96,9 +97,9 @@ void flush_catalogs_of(upath const& location) {
 } // namespace
 
 void MessageCatalog::set_additional_resource_locations(std::vector<ustring> const& roots) {
-    catalog_registry& registry = get_catalog_registry();
-    std::lock_guard const lock(registry.catalog_registry_mutex);
-    location_list list = registry.locations.current();
+    detail::catalog_registry& registry = detail::get_catalog_registry();
+    support::mutex_lock const lock(registry.catalog_registry_mutex);
+    location_list list = registry.locations();
     if (list.empty())
         support::raise(MessageCatalogNotInitialized());
     if (roots.empty())
@@ -106,24 +107,24 @@ void MessageCatalog::set_additional_resource_locations(std::vector<ustring> cons
     list.reserve(list.size() + roots.size());
     for (ustring const& root : roots)
         list.push_back(additional_location(root));
-    registry.locations.publish(std::move(list));
+    registry.publish(std::move(list));
 }
 
 void MessageCatalog::remove_additional_resource_location(ustring const& root) {
-    catalog_registry& registry = get_catalog_registry();
-    std::lock_guard const lock(registry.catalog_registry_mutex);
+    detail::catalog_registry& registry = detail::get_catalog_registry();
+    support::mutex_lock const lock(registry.catalog_registry_mutex);
     if (root.empty())
         support::raise(InvalidPathSupplied());
-    location_list list = registry.locations.current();
+    location_list list = registry.locations();
     if (list.empty())
         support::raise(MessageCatalogNotInitialized());
-    upath const path = resource_directory(root);
+    upath const path = detail::resource_directory(root);
     if (!contains(list, path, true))
         support::raise(ResourcePathNotFound());
     if (!contains(list, path, false)) // else its catalogs are still reachable
         flush_catalogs_of(path);
     std::erase(list, resource_location{path, true});
-    registry.locations.publish(std::move(list));
+    registry.publish(std::move(list));
 }
 
 } // namespace fl::i18n

@@ -55,7 +55,7 @@ key_set keys_of_maps(std::vector<upath> const& locations, std::u16string_view he
     auto const keys = boost::make_shared<key_set>();
     auto const handler = boost::make_shared<MetaInfoExpatEventHandler>(ustring(head), keys);
     for (upath const& location : locations)
-        for (upath const& file : catalog_maps_for(location, head))
+        for (upath const& file : detail::catalog_maps_for(location, head))
             ExpatLoader(file, handler).load_file();
     return std::move(*keys);
 }
@@ -74,7 +74,7 @@ std::vector<ustring> parts_behind_head(std::vector<upath> const& locations, part
 std::vector<ustring> components(std::vector<upath> const& locations) {
     std::vector<ustring> result;
     for (upath const& location : locations)
-        std::ranges::move(components_with_map(location), std::back_inserter(result));
+        std::ranges::move(detail::components_with_map(location), std::back_inserter(result));
     return result;
 }
 
@@ -139,11 +139,11 @@ message_id_completions getMessageIdCompletions(ustring const& input) try {
 }
 
 UnitTest::MsgCatTabComplTestHelper::MsgCatTabComplTestHelper(ustring const& mapPath) {
-    place_catalog_maps(mapPath);
+    detail::place_catalog_maps(mapPath);
 }
 
 UnitTest::MsgCatTabComplTestHelper::~MsgCatTabComplTestHelper() {
-    place_catalog_maps(ustring());
+    detail::place_catalog_maps(ustring());
 }
 
 } // namespace fl::i18n

@@ -3,7 +3,10 @@
 #include <fl/filesystem/exceptions.hpp>
 #include <fl/filesystem/file_status.hpp>
 
-namespace fl::i18n {
+#include <algorithm>
+#include <utility>
+
+namespace fl::i18n::detail {
 
 filesystem::upath resource_directory(ustring const& root) {
     ustring base = root.empty() ? root : filesystem::detail::make_native_form(root, 1);
@@ -25,4 +28,13 @@ std::optional<resource_location> find_resource_directory(ustring const& root, bo
     return resource_location{std::move(path), additional};
 }
 
-} // namespace fl::i18n
+void resource_locations::publish(std::vector<resource_location> list) {
+    auto version =
+        std::find_if(versions_.begin(), versions_.end(), [&](auto const& former) { return *former == list; });
+    if (version == versions_.end())
+        version = versions_.insert(version,
+                                   std::make_unique<std::vector<resource_location> const>(std::move(list)));
+    current_.store(version->get(), std::memory_order_release);
+}
+
+} // namespace fl::i18n::detail

@@ -3,13 +3,12 @@
 
 #include <fl/filesystem/path.hpp>
 
-#include <algorithm>
 #include <atomic>
 #include <memory>
 #include <optional>
 #include <vector>
 
-namespace fl::i18n {
+namespace fl::i18n::detail {
 
 /// One directory of the list.
 struct resource_location {
@@ -37,16 +36,9 @@ public:
         return *current_.load(std::memory_order_acquire);
     }
 
-    /// Replaces the list. The caller holds `catalog_registry_mutex`. A list that was there before is taken up
-    /// again: an add-on that comes and goes costs no memory each time.
-    void publish(std::vector<resource_location> list) {
-        auto version = std::find_if(versions_.begin(), versions_.end(),
-                                    [&](auto const& former) { return *former == list; });
-        if (version == versions_.end())
-            version = versions_.insert(
-                version, std::make_unique<std::vector<resource_location> const>(std::move(list)));
-        current_.store(version->get(), std::memory_order_release);
-    }
+    /// Replaces the list; one change at a time. A list that was there before is taken up again: an add-on
+    /// that comes and goes costs no memory each time.
+    void publish(std::vector<resource_location> list);
 
 private:
     std::vector<resource_location> const initial_{};
@@ -54,4 +46,4 @@ private:
     std::vector<std::unique_ptr<std::vector<resource_location> const>> versions_;
 };
 
-} // namespace fl::i18n
+} // namespace fl::i18n::detail

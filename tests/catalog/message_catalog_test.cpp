@@ -43,7 +43,7 @@ TEST_F(CatalogRegistry, SharesOneObjectAmongLocalesUntilFlushed) {
     EXPECT_EQ("new", answer("de_AT"));
     EXPECT_EQ(u"main/app/de/text", german->get_message_for_key("k")) << "it lives on with its holders";
     EXPECT_EQ(leaf, get("de_DE", "extra:sub:deep:leaf")) << "extra:sub is another one";
-    catalog_cache cache;
+    detail::catalog_cache cache;
     std::uint64_t const count = cache.flush_count();
     cache.flush("app:text");
     cache.insert("app:text:de", german, count);
