@@ -1,3 +1,5 @@
+// The loaded catalogs. Flushes are counted, so that a load which began before one enters nothing stale.
+
 #include "catalog/catalog_cache.hpp"
 
 #include <utility>

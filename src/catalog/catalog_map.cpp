@@ -1,3 +1,5 @@
+// Where the files of the index of catalogs lie on the disk; `catalog_map_xml.cpp` reads them.
+
 #include "catalog/catalog_map.hpp"
 
 #include "support/never_destroyed.hpp"
@@ -79,7 +81,7 @@ ustring as_path(std::u16string_view head) {
     return path;
 }
 
-/// A segment of dots or with a separator would lead out of the index.
+/// False for what would lead out of the index: a segment of dots, or one with a separator.
 bool stays_inside(std::u16string_view head) {
     if (head.find(u'/') != std::u16string_view::npos)
         return false;

@@ -1,3 +1,5 @@
+// What happens when the cache has no answer: the search for the file, its load, and its entry in the cache.
+
 #include "catalog/catalog_registry.hpp"
 
 #include "support/never_destroyed.hpp"
@@ -18,7 +20,7 @@ struct catalog_file {
     std::string locale;
 };
 
-/// The file of the best locale that has one. Without any, the load has failed.
+/// The file of the best locale that has one. Throws `MessageCatalogLoadFailed` if none has.
 catalog_file find_catalog_file(std::string const& catalog, QnLocale const& locale) {
     resource_finder const finder(MessageCatalogImpl::getTopLevelResourceLocations(), locale, true, ustring());
     upath path = finder.find(MessageCatalogUtility::obtainXMLFilePathPattern(catalog));
@@ -36,6 +38,7 @@ void catalog_registry::publish(std::vector<resource_location> locations) {
 
 std::shared_ptr<MessageCatalog> catalog_registry::load(std::string const& catalog, QnLocale const& locale,
                                                        std::string const& key) {
+    // Asked before the disk is: a flush in the meantime means that the file may have changed since.
     std::uint64_t const flush_count = cache.flush_count();
     catalog_file const file = find_catalog_file(catalog, locale);
     std::string const found_key = catalog_cache::key(catalog, file.locale);

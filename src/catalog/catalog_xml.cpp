@@ -16,7 +16,8 @@ constexpr char version_attribute[] = "version";
 constexpr char locale_attribute[] = "locale";
 constexpr char key_attribute[] = "key";
 
-/// Unlike strcmp this is expanded in place: names are compared twice for each message.
+/// Whether a name is a known one. Unlike strcmp this is expanded in place: names are compared twice for each
+/// message.
 template <std::size_t Size>
 bool equal(char const* name, char const (&known)[Size]) noexcept {
     for (std::size_t i = 0; i < Size; ++i)

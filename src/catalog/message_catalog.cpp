@@ -67,6 +67,7 @@ bool MessageCatalog::MessageCatalogInit(ustring const& root,
 std::shared_ptr<MessageCatalog> MessageCatalog::GetMessageCatalog(CatalogID const& id,
                                                                   QnLocale const& locale) {
     detail::catalog_registry& registry = detail::get_catalog_registry();
+    // Threads that come here together may all do this: the first one sets the list, the others find it set.
     if (registry.locations().empty())
         MessageCatalogInit(filesystem::get_install_path());
     std::string_view const catalog = id.getCatalogIDStr();

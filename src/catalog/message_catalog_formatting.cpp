@@ -1,3 +1,5 @@
+// The formatting of messages as callers see it. `message_catalog_impl.cpp` does it, by `message_format.cpp`.
+
 #include "catalog/message_format.hpp"
 #include "support/raise.hpp"
 

@@ -81,7 +81,7 @@ void scan_catalogs(upath const& location, Use const& use) {
     }
 }
 
-/// Only by their English files are the catalogs of a location known: each has one.
+/// Flushes the catalogs of a location. They are known by their English files: each catalog has one.
 void flush_catalogs_of(upath const& location) {
     if (!detail::is_directory(location))
         support::raise(MessageCatalog::ResDirNotPresent());

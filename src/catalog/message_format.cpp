@@ -1,3 +1,5 @@
+// Patterns and the names of their holes, by ICU, which is kept from patterns that would outgrow the stack.
+
 #include "catalog/message_format.hpp"
 
 #include "conversion/codecs/ascii_text.hpp"
@@ -37,8 +39,9 @@ std::int32_t in_icu_range(std::size_t value) {
     return support::to_icu_length(value, raise_overflow);
 }
 
-/// ICU follows arguments within arguments ("{0,select,other{...}}") by recursion, at some kilobytes of stack
-/// a level. This many fit a thread with a stack of 256 KB, and no real message comes near.
+/// Limit on arguments with patterns of their own ("{0,select,other{...}}"). ICU follows them by recursion, at
+/// some kilobytes of stack a level: this many fit a thread with a stack of 256 KB, and no real message comes
+/// near.
 constexpr int most_complex_arguments = 50;
 
 /// True if one of the words for an argument with patterns in it stands at the start of `text`.
@@ -59,7 +62,9 @@ bool is_in_name(char16_t unit) {
     return !is_white_space(unit) && !u_hasBinaryProperty(unit, UCHAR_PATTERN_SYNTAX);
 }
 
-/// argument = "{" [white space] name [white space] "," ...
+/// True if the comma at `comma` is the first of an argument:
+///
+///     argument := "{" [ white-space ] name [ white-space ] "," ...
 bool ends_argument_name(icu::UnicodeString const& pattern, std::int32_t comma) {
     std::int32_t i = comma - 1;
     while (i >= 0 && is_white_space(pattern[i]))
@@ -80,7 +85,8 @@ bool begins_complex_argument(icu::UnicodeString const& pattern, std::int32_t com
     return is_complex_type(pattern.tempSubString(word, 6));
 }
 
-/// They are counted side by side too, and in quotes: only ICU knows what is quoted.
+/// Refuses a pattern with too many complex arguments. They are counted side by side too, and in quotes: only
+/// ICU knows what is quoted.
 void check_complexity(icu::UnicodeString const& pattern) {
     int count = 0;
     for (std::int32_t comma = pattern.indexOf(u','); comma >= 0; comma = pattern.indexOf(u',', comma + 1))
@@ -89,7 +95,7 @@ void check_complexity(icu::UnicodeString const& pattern) {
 }
 
 /// The number at the start of a name; what follows the digits is not looked at, but has to be ASCII.
-unsigned long leading_number(char16_t const* name, std::int32_t length) {
+std::size_t leading_number(char16_t const* name, std::int32_t length) {
     return std::stoul(to_ascii({name, static_cast<std::size_t>(length)}));
 }
 
@@ -113,7 +119,7 @@ hole_names names_in_pattern(icu::MessageFormat& format) {
 
 hole_names sorted_by_number(hole_names const& names) {
     // The numbers come first: a name without one has to be found also where there is nothing to compare.
-    std::vector<std::pair<unsigned long, icu::UnicodeString>> numbered;
+    std::vector<std::pair<std::size_t, icu::UnicodeString>> numbered;
     numbered.reserve(names.size());
     for (icu::UnicodeString const& name : names)
         numbered.emplace_back(leading_number(name.getBuffer(), name.length()), name);

@@ -106,7 +106,8 @@ bool key_begins_with(std::string_view key, std::string_view beginning) {
                       [](char a, char b) { return lower_checked(a) == lower_checked(b); });
 }
 
-/// Where the head is no catalog, or one that does not load, there are no keys.
+/// Adds the keys of the catalog that the head names. Where it names none, or one that does not load, there
+/// are no keys.
 void add_keys(std::vector<ustring>& completions, parted_input const& input) try {
     CatalogID const id(idbase::makeInternalCatalogName(detail::to_ascii(input.head())));
     std::shared_ptr<MessageCatalog> const catalog = MessageCatalog::GetMessageCatalog(id);

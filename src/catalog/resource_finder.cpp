@@ -18,7 +18,8 @@ namespace upath_constant = filesystem::upath_constant;
 
 constexpr char16_t default_marker[] = u"%S";
 
-/// Without the fallback to the classic language, the file without a locale comes last.
+/// The names to try, in order. Without the fallback to the classic language, the file without a locale comes
+/// last: its name is empty.
 std::vector<ustring> make_locale_list(QnLocale const& locale, bool use_fallback) {
     return use_fallback ? get_fallback_locales(locale) : get_fallback_locales_with_empty_default(locale);
 }
@@ -27,7 +28,7 @@ ustring marker_or_default(ustring const& marker) {
     return marker.empty() ? ustring(default_marker) : marker;
 }
 
-/// The name of a locale comes from outside: it must stay one component of the path that it becomes part of.
+/// Whether a name stays one component of the path that it becomes part of: it may come from outside.
 bool is_path_component(ustring const& locale) {
     return locale.find(upath_constant::PATHNAME_SEPARATOR) == ustring::npos &&
            locale.find(u'\0') == ustring::npos;
@@ -90,7 +91,8 @@ upath search(ustring const& pattern, ustring const& marker, std::vector<ustring>
         upath found = is_path_component(locale) ? locate(parsed->file_name(locale)) : upath();
         if (!found.empty())
             return found;
-        if (index < std::numeric_limits<std::int32_t>::max()) // one form of find never starts again at 0
+        if (index <
+            std::numeric_limits<std::int32_t>::max()) // `find` with all arguments never starts again at 0
             ++index;
     }
     index = -1;

@@ -1,3 +1,5 @@
+// The directories of resources on the disk, and the publication of lists of them.
+
 #include "catalog/resource_locations.hpp"
 
 #include <fl/filesystem/exceptions.hpp>

@@ -1,3 +1,5 @@
+// The texts of a catalog, from the UTF-8 of its file to the UTF-16 in which they are handed out.
+
 #include "catalog/xml_catalog_data_store.hpp"
 
 #include "support/icu_length.hpp"
@@ -17,13 +19,13 @@ namespace fl::i18n {
 namespace {
 
 constexpr std::size_t first_buckets = 64;
-// A step means hashing all keys anew: this makes half as many steps as doubling.
+/// How the hash table grows. A step means hashing all keys anew: this makes half as many steps as doubling.
 constexpr std::size_t bucket_growth = 4;
 
 constexpr std::int32_t block_size = 8;
 
 /// Widens bytes up to the first block that holds more than ASCII; the number of bytes done. Unlike
-/// `support::widened` it looks at the bytes as it goes, and allocates nothing: most of a load is spent here.
+/// `support::widened` it looks at the bytes as it goes, and allocates nothing.
 std::int32_t widen_ascii(char const* bytes, std::int32_t length, char16_t* units) noexcept {
     std::int32_t done = 0;
     for (; length - done >= block_size; done += block_size) {
@@ -58,8 +60,8 @@ std::int32_t decode_utf8(char const* bytes, std::int32_t length, char16_t* units
 
 #pragma GCC diagnostic pop
 
-/// Texts of the usual length are decoded aside first, so that each takes just the room of its units: a short
-/// one fits into the object itself.
+/// The text of UTF-8 bytes. One of the usual length is decoded aside first, so that it takes just the room of
+/// its units: a short one fits into the object itself.
 icu::UnicodeString text_from_utf8(char const* bytes, std::int32_t length) {
     std::array<char16_t, 512> aside;
     if (length <= static_cast<std::int32_t>(aside.size()))

@@ -1,3 +1,5 @@
+// Limits on what a document may declare, and the reading of a stream in pieces that grow with their tokens.
+
 #include "xml/expat_session.hpp"
 
 #include <algorithm>
@@ -8,9 +10,9 @@
 namespace fl::xml {
 namespace {
 
-// Of entities and attributes together. A chain of entities, each within the next, is expanded by recursion
-// and outgrows the stack long before it outgrows expat's limits. The attributes declared for an element are
-// searched through at each of its tags.
+/// Of entities and attributes together. A chain of entities, each within the next, is expanded by recursion
+/// and outgrows the stack long before it outgrows expat's limits. The attributes declared for an element are
+/// searched through at each of its tags.
 constexpr int most_declarations = 100;
 
 constexpr std::size_t buffer_size = 1024;
@@ -77,8 +79,8 @@ expat_session::result expat_session::parse(std::istream& stream) {
     return result::complete;
 }
 
-/// The bytes that the parser holds back because their token goes on, and scans again with each further piece.
-/// Pieces of that size keep the repeated scans in proportion to the file.
+// The bytes that the parser holds back because their token goes on, and scans again with each further piece.
+// Pieces of that size keep the repeated scans in proportion to the file.
 std::size_t expat_session::unfinished_token(std::size_t fed) const noexcept {
     XML_Index const done = XML_GetCurrentByteIndex(parser_);
     return done < 0 ? fed : fed - static_cast<std::size_t>(done);

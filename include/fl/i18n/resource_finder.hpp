@@ -5,7 +5,6 @@
 /// The finder puts the names of the locale's fallback list (see <fl/i18n/locale_fallback.hpp>) in place of
 /// the marker, one after the other, and returns the first file that exists below one of its base directories:
 ///
-/// @code
 ///     auto const locale = fl::i18n::QnLocale::createLocale("de_AT");
 ///     fl::i18n::resource_finder finder({fl::filesystem::upath(u"/opt/app/help")}, *locale, true, u"");
 ///     fl::filesystem::upath const page = finder.find(u"%S/start.html"); // de/start.html if de_AT has none
@@ -65,15 +64,15 @@ public:
     /// `get_locale` answers stays as it was.
     filesystem::upath find(ustring const& pattern, QnLocale const& locale, std::string& foundLocale) const;
 
-    /// Searches for another locale with another marker. Unlike its sibling, this form gives `foundLocale` the
-    /// first name of the locale's list, whichever name matched (or makes it empty), and it counts on from the
-    /// place of the last match: what `get_locale` answers afterwards has no meaning.
+    /// Searches for another locale with another marker. Two things differ from the form above: `foundLocale`
+    /// gets the first name of the locale's list, whichever name matched, or becomes empty; and what
+    /// `get_locale` answers afterwards has no meaning.
     filesystem::upath find(ustring const& pattern, QnLocale const& locale, ustring const& formatter,
                            std::string& foundLocale) const;
 
-    /// The locale name that the last `find` of the first two forms matched; empty if it searched in vain, or
-    /// if there was none. Behind a pattern that names nothing to search (empty, or without the marker) it is
-    /// the first name of the list: test the path that `find` returned.
+    /// The locale name that the last `find` of the first two forms matched; empty before the first search and
+    /// behind a vain one. Test the path that `find` returned as well: a pattern that names nothing to search,
+    /// being empty or without the marker, gives the first name of the list.
     std::string get_locale() const;
 
     /// One search without an object: as a finder made of the same arguments would do it.
