@@ -156,12 +156,14 @@ void show_failures() {
     heading("What failures say.");
     locale_pointer const italian = QnLocale::createLocale("it_IT");
     show("harbour:booking", "goodbye", "it_IT", "it");
-    show_failure<MessageCatalog::MessageNotFound>(
-        "missing key", [&] { MessageCatalog::get_message(MessageID("harbour:booking:gate"), *italian); });
-    show_failure<MessageCatalog::MessageCatalogLoadFailed>(
-        "missing catalog", [&] { MessageCatalog::get_message(MessageID("harbour:freight:gate"), *italian); });
+    show_failure<MessageCatalog::MessageNotFound>("missing key", [&] {
+        return MessageCatalog::get_message(MessageID("harbour:booking:gate"), *italian);
+    });
+    show_failure<MessageCatalog::MessageCatalogLoadFailed>("missing catalog", [&] {
+        return MessageCatalog::get_message(MessageID("harbour:freight:gate"), *italian);
+    });
     show_failure<MessageID::badMessageIDException>(
-        "bad identifier", [&] { MessageCatalog::get_message(MessageID("harbour gate"), *italian); });
+        "bad identifier", [&] { return MessageCatalog::get_message(MessageID("harbour gate"), *italian); });
 }
 
 void check_names(std::string const& catalog, demo::translation const& where,

@@ -51,12 +51,13 @@ public:
     /// without a colon; false, with both results written, if either part is empty.
     bool extractIDComponents(std::string const& id, std::string& component, std::string& subComponents);
 
-    std::string getComponentName() const;      ///< Text before the first colon.
-    std::string getSubComponentsNames() const; ///< Text behind the first colon, further colons included.
-    std::string getCatalogID() const;          ///< The whole text.
+    [[nodiscard]] std::string getComponentName() const; ///< Text before the first colon.
+    [[nodiscard]] std::string
+    getSubComponentsNames() const;                  ///< Text behind the first colon, further colons included.
+    [[nodiscard]] std::string getCatalogID() const; ///< The whole text.
 
     /// The whole text, NUL-terminated. The pointer is valid until the object is changed or destroyed.
-    char const* getCatalogIDStr() const noexcept;
+    [[nodiscard]] char const* getCatalogIDStr() const noexcept;
 
 private:
     std::string catalogId_;
@@ -98,18 +99,18 @@ public:
     /// changed; false also for an empty key, with the catalog replaced.
     bool extractIDComponents(std::string const& id);
 
-    CatalogID getCatalogID() const;     ///< The catalog that holds the message.
-    std::string getCompositeID() const; ///< The whole text.
-    std::string getMsgKey() const;      ///< The key within the catalog.
+    [[nodiscard]] CatalogID getCatalogID() const;     ///< The catalog that holds the message.
+    [[nodiscard]] std::string getCompositeID() const; ///< The whole text.
+    [[nodiscard]] std::string getMsgKey() const;      ///< The key within the catalog.
 
     /// The whole text, NUL-terminated. The pointer is valid until the object is changed or destroyed.
-    char const* getCompositeIDstr() const noexcept;
+    [[nodiscard]] char const* getCompositeIDstr() const noexcept;
 
     /// As `getCatalogID`, without a copy; valid until the object is changed or destroyed.
-    CatalogID const& catalogID() const noexcept { return catalogId_; }
+    [[nodiscard]] CatalogID const& catalogID() const noexcept { return catalogId_; }
 
     /// As `getMsgKey`, without a copy; valid until the object is changed or destroyed.
-    std::string const& msgKey() const noexcept { return msgKey_; }
+    [[nodiscard]] std::string const& msgKey() const noexcept { return msgKey_; }
 
 private:
     std::string compositeId_;
@@ -122,7 +123,7 @@ namespace idbase {
 /// The catalog behind the text that a caller uses for it: the host application's old messages have
 /// identifiers of two parts, "KESTRUNE:key", and lie in the catalog "KESTRUNE:legacy_two_part". Any other
 /// text names its catalog itself and comes back as it is.
-FL_I18N_EXPORT std::string makeInternalCatalogName(std::string const& catalog);
+[[nodiscard]] FL_I18N_EXPORT std::string makeInternalCatalogName(std::string const& catalog);
 
 } // namespace idbase
 } // namespace fl::i18n

@@ -83,12 +83,12 @@ public:
     void addEntry(std::string const& key, std::string const& value);
 
     // The names of the format, as constants that are valid for the life of the process.
-    static char const* getCategoryTag() noexcept;      ///< "rsccat"
-    static char const* getMessageTag() noexcept;       ///< "message"
-    static char const* getEntryTag() noexcept;         ///< "entry"
-    static char const* getVersionAttribute() noexcept; ///< "version"
-    static char const* getLocaleAttribute() noexcept;  ///< "locale"
-    static char const* getEntryKeyStr() noexcept;      ///< "key"
+    [[nodiscard]] static char const* getCategoryTag() noexcept;      ///< "rsccat"
+    [[nodiscard]] static char const* getMessageTag() noexcept;       ///< "message"
+    [[nodiscard]] static char const* getEntryTag() noexcept;         ///< "entry"
+    [[nodiscard]] static char const* getVersionAttribute() noexcept; ///< "version"
+    [[nodiscard]] static char const* getLocaleAttribute() noexcept;  ///< "locale"
+    [[nodiscard]] static char const* getEntryKeyStr() noexcept;      ///< "key"
 
 private:
     enum class parse_state : std::int32_t { in_root = 0, in_message = 1, in_entries = 2, before_root = 3 };
@@ -106,7 +106,7 @@ public:
     /// Where the file of a catalog lies below a resource location, with "%S" for the locale: "a:b:c" gives
     /// "a/%S/b/c.xml". Empty if `id` is empty, has no colon, or ends in one. Text outside ASCII throws
     /// `CvtInvalidCharacter`. Nothing else is checked: pass what `CatalogID` has accepted.
-    static ustring obtainXMLFilePathPattern(std::string const& id);
+    [[nodiscard]] static ustring obtainXMLFilePathPattern(std::string const& id);
 };
 
 } // namespace fl::i18n

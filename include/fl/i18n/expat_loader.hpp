@@ -51,7 +51,7 @@ public:
     bool elementEnd(char const* name);
 
     /// The encoding name given to the constructor.
-    std::string const& encoding() const noexcept { return encoding_; }
+    [[nodiscard]] std::string const& encoding() const noexcept { return encoding_; }
 
 protected:
     /// What a kind of handler does with each event; false stops the parse. Exceptions reach the caller of
@@ -98,7 +98,7 @@ public:
     ~XML_Parser_Guard();
 
     /// The parser; null if there was no memory for one. Valid as long as the guard.
-    XML_ParserStruct* get() const noexcept { return parser_; }
+    [[nodiscard]] XML_ParserStruct* get() const noexcept { return parser_; }
 
 private:
     XML_ParserStruct* parser_;

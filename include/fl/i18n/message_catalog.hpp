@@ -66,21 +66,21 @@ public:
 
     /// The text stored under `key`, raw: holes stay in it. Keys are compared byte by byte. There is no
     /// fallback to another locale at this level: throws `MessageNotFound` if this catalog has no such key.
-    virtual ustring get_message_for_key(std::string const& key) const = 0;
+    [[nodiscard]] virtual ustring get_message_for_key(std::string const& key) const = 0;
 
     /// All keys, in unspecified order.
-    virtual std::vector<std::string> get_all_keys() const = 0;
+    [[nodiscard]] virtual std::vector<std::string> get_all_keys() const = 0;
 
     /// The locale whose directory the catalog came from: possibly a fallback of the one that was asked for.
-    virtual std::string get_locale_name() const = 0;
+    [[nodiscard]] virtual std::string get_locale_name() const = 0;
 
     /// The text for `id.key` with the values that `id` carries in its holes, as by
     /// `MessageCatalogImpl::getFormattedMessage`. Throws `MessageNotFound` if `id` names another catalog or
     /// an unknown key, and `MessageFormatIncorrect` if the text cannot be formatted.
-    virtual ustring get_message_for_key(idbase::BaseMsgID const& id) const = 0;
+    [[nodiscard]] virtual ustring get_message_for_key(idbase::BaseMsgID const& id) const = 0;
 
     /// The identifier of the catalog, as "component:name".
-    virtual std::string get_catalog_name() const = 0;
+    [[nodiscard]] virtual std::string get_catalog_name() const = 0;
 
     virtual ~MessageCatalog();
 
@@ -107,9 +107,10 @@ public:
     /// `MessageCatalogLoadFailed` if there is no file, or the one found does not load, and what
     /// `filesystem::status` throws where a candidate cannot be looked at (a name too long, no permission, a
     /// loop of links). A failure is not remembered.
-    static std::shared_ptr<MessageCatalog> GetMessageCatalog(CatalogID const& id, QnLocale const& locale);
+    [[nodiscard]] static std::shared_ptr<MessageCatalog> GetMessageCatalog(CatalogID const& id,
+                                                                           QnLocale const& locale);
     /// The same for the global locale.
-    static std::shared_ptr<MessageCatalog> GetMessageCatalog(CatalogID const& id);
+    [[nodiscard]] static std::shared_ptr<MessageCatalog> GetMessageCatalog(CatalogID const& id);
 
     /// `GetMessageCatalog` for the catalog that `id` names; throws `CatalogID::badCatalogIDException` if its
     /// text is not well-formed.
@@ -120,17 +121,17 @@ public:
 
     /// The raw text of a message: holes stay in it. Throws as `GetMessageCatalog` does, and
     /// `MessageNotFound`.
-    static ustring get_message(MessageID const& id, QnLocale const& locale);
+    [[nodiscard]] static ustring get_message(MessageID const& id, QnLocale const& locale);
     /// The same for the global locale.
-    static ustring get_message(MessageID const& id);
+    [[nodiscard]] static ustring get_message(MessageID const& id);
     /// The text of a message with the values that `id` carries in its holes, as by
     /// `MessageCatalogImpl::getFormattedMessage`. Throws as `openCatalog` does, and `MessageNotFound` and
     /// `MessageFormatIncorrect`.
-    static ustring get_message(idbase::BaseMsgID const& id, QnLocale const& locale);
+    [[nodiscard]] static ustring get_message(idbase::BaseMsgID const& id, QnLocale const& locale);
     /// The same for the global locale.
-    static ustring get_message(idbase::BaseMsgID const& id);
+    [[nodiscard]] static ustring get_message(idbase::BaseMsgID const& id);
     /// The same for the classic locale, which is English.
-    static ustring get_default_locale_message(idbase::BaseMsgID const& id);
+    [[nodiscard]] static ustring get_default_locale_message(idbase::BaseMsgID const& id);
 
     /// Appends the directory "resources" of each root, in order, to the list of resource locations: behind
     /// all others, so that what they hold is found only where no earlier location has a file of the same
@@ -170,7 +171,8 @@ public:
     /// Throws `IncorrectHoleCount` when the numbers of values and of holes differ, and
     /// `MessageFormatIncorrect` when the pattern or a value is refused. A hole whose name begins with neither
     /// a letter nor a digit throws `std::invalid_argument`, a number too large `std::out_of_range`.
-    static ustring GetFormattedMessage(ustring const& message, std::vector<hole_value> const& holes);
+    [[nodiscard]] static ustring GetFormattedMessage(ustring const& message,
+                                                     std::vector<hole_value> const& holes);
 
     /// Fills the holes of `message` with values that a function provides, for which callers include
     /// <fl/i18n/hole_fill_function.hpp>. `fill` is called once for each hole, in the order of the numbers, on
@@ -180,14 +182,14 @@ public:
     /// 0. The list is made first: an absurd `holeCount` throws `std::length_error` or `std::bad_alloc`.
     /// Otherwise throws as the form above, `MessageFormatIncorrect` if `holeCount` is not 0 and `fill` is
     /// empty, and `boost::numeric::positive_overflow` for a hole number of 2^31 or more.
-    static ustring GetFormattedMessage(ustring const& message, unsigned long holeCount,
-                                       hole_fill_function const& fill);
+    [[nodiscard]] static ustring GetFormattedMessage(ustring const& message, unsigned long holeCount,
+                                                     hole_fill_function const& fill);
 
     /// The custom type of hole `number`, as "date" for number 1 of "{1_date}"; empty if no hole of that
     /// number has one. Throws `IncorrectHoleCount` (with `number` as the expected count) if `number` exceeds
     /// the count of holes, and what `GetFormattedMessage` throws for a pattern or a name that it refuses. A
     /// named hole has no number: it throws `std::invalid_argument`.
-    static ustring GetCustomHoleType(ustring const& message, unsigned long number);
+    [[nodiscard]] static ustring GetCustomHoleType(ustring const& message, unsigned long number);
 };
 
 } // namespace fl::i18n

@@ -53,8 +53,8 @@ public:
     /// Names both numbers; valid as long as this object.
     char const* what() const noexcept override;
 
-    unsigned long expected() const noexcept { return expected_; }
-    unsigned long found() const noexcept { return found_; }
+    [[nodiscard]] unsigned long expected() const noexcept { return expected_; }
+    [[nodiscard]] unsigned long found() const noexcept { return found_; }
 
 private:
     unsigned long expected_;

@@ -37,30 +37,32 @@ public:
     /// does; `get_all_keys` then gives what was read before the fault.
     void initializeXMLCatalog();
 
-    ustring get_message_for_key(std::string const& key) const override;
-    std::vector<std::string> get_all_keys() const override;
-    std::string get_locale_name() const override;
-    ustring get_message_for_key(idbase::BaseMsgID const& id) const override;
-    std::string get_catalog_name() const override;
+    [[nodiscard]] ustring get_message_for_key(std::string const& key) const override;
+    [[nodiscard]] std::vector<std::string> get_all_keys() const override;
+    [[nodiscard]] std::string get_locale_name() const override;
+    [[nodiscard]] ustring get_message_for_key(idbase::BaseMsgID const& id) const override;
+    [[nodiscard]] std::string get_catalog_name() const override;
 
     /// The directories that are searched for catalogs, in order, additional ones included. Throws
     /// `MessageCatalogNotInitialized` if no location was set yet.
-    static std::vector<filesystem::upath> getTopLevelResourceLocations();
+    [[nodiscard]] static std::vector<filesystem::upath> getTopLevelResourceLocations();
 
     /// Fills the holes of `message` without checking their number: "{0}" takes the first value, "{1}" the
     /// second; with any other name in the message, values go to holes as in
     /// `MessageCatalog::GetFormattedMessage`. A hole without a value stays in the text, a value without a
     /// hole is ignored. Throws `MessageFormatIncorrect`.
-    static ustring getFormattedMessage(ustring const& message, std::vector<hole_value> const& holes);
+    [[nodiscard]] static ustring getFormattedMessage(ustring const& message,
+                                                     std::vector<hole_value> const& holes);
 
     /// `MessageCatalog::GetFormattedMessage` if `strict`, else `getFormattedMessage`.
-    static ustring GetFormattedMessageImpl(ustring const& message, std::vector<hole_value> const& holes,
-                                           bool strict);
+    [[nodiscard]] static ustring GetFormattedMessageImpl(ustring const& message,
+                                                         std::vector<hole_value> const& holes, bool strict);
 
     /// `MessageCatalog::GetFormattedMessage` with a function, on the caller's list of values. Throws
     /// `std::bad_function_call` for an empty `fill` if there are holes to fill.
-    static ustring GetFormattedMessageImpl(ustring const& message, std::vector<hole_value>& holes,
-                                           hole_fill_function const& fill);
+    [[nodiscard]] static ustring GetFormattedMessageImpl(ustring const& message,
+                                                         std::vector<hole_value>& holes,
+                                                         hole_fill_function const& fill);
 
 private:
     std::string catalogName_;

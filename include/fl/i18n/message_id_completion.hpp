@@ -39,7 +39,7 @@ struct message_id_completions {
 ///   where nothing is typed behind the colon.
 ///
 /// Reads the disk at every call. Thread-safe.
-FL_I18N_EXPORT message_id_completions getMessageIdCompletions(ustring const& input);
+[[nodiscard]] FL_I18N_EXPORT message_id_completions getMessageIdCompletions(ustring const& input);
 
 namespace UnitTest {
 

@@ -48,52 +48,53 @@ public:
     /// Removes the first directory with the same text; false if there is none.
     bool remove_base_path(filesystem::upath const& path) const;
 
-    std::vector<filesystem::upath> get_base_path_list() const;
+    [[nodiscard]] std::vector<filesystem::upath> get_base_path_list() const;
 
     /// Short name of the messages category of the constructor's locale.
-    std::string get_current_locale() const;
+    [[nodiscard]] std::string get_current_locale() const;
 
     /// Searches for the constructor's locale with the constructor's marker. A pattern without the marker
     /// finds nothing, without a look at the disk.
-    filesystem::upath find(ustring const& pattern) const;
+    [[nodiscard]] filesystem::upath find(ustring const& pattern) const;
 
     /// The same with another marker. An empty one puts the locale in front of the pattern.
-    filesystem::upath find(ustring const& pattern, ustring const& formatter) const;
+    [[nodiscard]] filesystem::upath find(ustring const& pattern, ustring const& formatter) const;
 
     /// Searches for another locale; `foundLocale` gets the name that matched, or becomes empty. What
     /// `get_locale` answers stays as it was.
-    filesystem::upath find(ustring const& pattern, QnLocale const& locale, std::string& foundLocale) const;
+    [[nodiscard]] filesystem::upath find(ustring const& pattern, QnLocale const& locale,
+                                         std::string& foundLocale) const;
 
     /// Searches for another locale with another marker. Two things differ from the form above: `foundLocale`
     /// gets the first name of the locale's list, whichever name matched, or becomes empty; and what
     /// `get_locale` answers afterwards has no meaning.
-    filesystem::upath find(ustring const& pattern, QnLocale const& locale, ustring const& formatter,
-                           std::string& foundLocale) const;
+    [[nodiscard]] filesystem::upath find(ustring const& pattern, QnLocale const& locale,
+                                         ustring const& formatter, std::string& foundLocale) const;
 
     /// The locale name that the last `find` of the first two forms matched; empty before the first search and
     /// behind a vain one. Test the path that `find` returned as well: a pattern that names nothing to search,
     /// being empty or without the marker, gives the first name of the list.
-    std::string get_locale() const;
+    [[nodiscard]] std::string get_locale() const;
 
     /// One search without an object: as a finder made of the same arguments would do it.
-    static filesystem::upath find_resource(std::vector<filesystem::upath> const& basePaths,
-                                           ustring const& pattern, QnLocale const& locale, bool useFallback,
-                                           ustring const& formatter);
+    [[nodiscard]] static filesystem::upath find_resource(std::vector<filesystem::upath> const& basePaths,
+                                                         ustring const& pattern, QnLocale const& locale,
+                                                         bool useFallback, ustring const& formatter);
 
     /// The same; `foundLocale` gets the name that matched, or becomes empty.
-    static filesystem::upath find_resource(std::vector<filesystem::upath> const& basePaths,
-                                           ustring const& pattern, std::string& foundLocale,
-                                           QnLocale const& locale, bool useFallback,
-                                           ustring const& formatter);
+    [[nodiscard]] static filesystem::upath find_resource(std::vector<filesystem::upath> const& basePaths,
+                                                         ustring const& pattern, std::string& foundLocale,
+                                                         QnLocale const& locale, bool useFallback,
+                                                         ustring const& formatter);
 
     /// One search where the pattern is itself the whole path.
-    static filesystem::upath find_resource(ustring const& pattern, QnLocale const& locale, bool useFallback,
-                                           ustring const& formatter);
+    [[nodiscard]] static filesystem::upath find_resource(ustring const& pattern, QnLocale const& locale,
+                                                         bool useFallback, ustring const& formatter);
 
     /// The same; `foundLocale` gets the name that matched, or becomes empty.
-    static filesystem::upath find_resource(ustring const& pattern, std::string& foundLocale,
-                                           QnLocale const& locale, bool useFallback,
-                                           ustring const& formatter);
+    [[nodiscard]] static filesystem::upath find_resource(ustring const& pattern, std::string& foundLocale,
+                                                         QnLocale const& locale, bool useFallback,
+                                                         ustring const& formatter);
 
 private:
     ustring formatter_;
