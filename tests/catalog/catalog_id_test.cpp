@@ -37,25 +37,47 @@ static std::string parts(MessageID const& id) {
     return id.getCompositeIDstr() + ("|" + id.getCatalogID().getCatalogID() + "|" + id.getMsgKey());
 }
 
-TEST(CatalogID, RefusedChangeLeavesTheObjectAsDoesMessageID) {
+TEST(CatalogID, RefusedChangeLeavesTheObject) {
     CatalogID id("a:b");
-    MessageID message("a:b:c");
-    for (char const* const bad : {"", "d", "d:"})
+    for (char const* const bad : {"", "d", "d:"}) {
         EXPECT_EQ(failure<BadCatalog>([&] { id.setCatalogID(bad); }), "Bad Catalog ID") << bad;
-    for (char const* const bad : {"", "d:e", "d:e:"})
-        EXPECT_EQ(failure<BadMessage>([&] { message.setCompositeMsgID(bad); }), "Bad Message ID") << bad;
-    EXPECT_EQ(parts(id) + parts(message), "a:b|a|ba:b:c|a:b|c");
-    id.setCatalogID("d:e:f");
-    message.setCompositeMsgID("d:e:f:g");
-    EXPECT_FALSE(message.extractIDComponents("x:y"));
-    EXPECT_EQ(parts(id) + parts(message), "d:e:f|d|e:fd:e:f:g|d:e:f|g");
-    EXPECT_FALSE(message.extractIDComponents("x:y:"));
-    EXPECT_EQ(message.catalogID().getCatalogID(), "x:y") << "replaced although the key was empty";
-    for (auto const& [source, after] : {std::pair("x:y", "1 x|y"), {"x", "0 x|kept"}, {"x:", "0 x|"}}) {
-        std::string text = source, tail = "kept"; // a result may be the very text that is split
-        bool const is_whole = id.extractIDComponents(text, text, tail);
-        EXPECT_EQ(std::to_string(is_whole) + " " + text + "|" + tail, after);
+        EXPECT_EQ(parts(id), "a:b|a|b") << bad;
     }
+    id.setCatalogID("d:e:f");
+    EXPECT_EQ(parts(id), "d:e:f|d|e:f");
+}
+
+TEST(CatalogID, SplitsATextIntoItself) {
+    struct {
+        std::string text;
+        bool is_whole;
+        std::string component, rest;
+    } const rows[] = {
+        {"x:y", true, "x", "y"},
+        {"x", false, "x", "kept"},
+        {"x:", false, "x", ""},
+    };
+    for (auto const& row : rows) {
+        std::string text = row.text, rest = "kept";
+        EXPECT_EQ(CatalogID().extractIDComponents(text, text, rest), row.is_whole) << row.text;
+        EXPECT_EQ(text + "|" + rest, row.component + "|" + row.rest) << row.text;
+    }
+}
+
+TEST(MessageID, RefusedChangeLeavesTheObject) {
+    MessageID id("a:b:c");
+    for (char const* const bad : {"", "d:e", "d:e:"}) {
+        EXPECT_EQ(failure<BadMessage>([&] { id.setCompositeMsgID(bad); }), "Bad Message ID") << bad;
+        EXPECT_EQ(parts(id), "a:b:c|a:b|c") << bad;
+    }
+    id.setCompositeMsgID("d:e:f:g");
+    EXPECT_FALSE(id.extractIDComponents("x:y"));
+    EXPECT_EQ(parts(id), "d:e:f:g|d:e:f|g");
+    EXPECT_FALSE(id.extractIDComponents("x:y:"));
+    EXPECT_EQ(id.catalogID().getCatalogID(), "x:y") << "replaced although the key was empty";
+}
+
+TEST(MessageID, TakesAnyKeyBesideItsCatalog) {
     EXPECT_EQ(parts(MessageID(CatalogID("a:b:c"), "any key: 1")), "a:b:c:any key: 1|a:b:c|any key: 1");
     EXPECT_EQ(failure<BadMessage>([] { MessageID(CatalogID("a:b"), ""); }), "Bad Message ID");
 }

@@ -2,7 +2,6 @@
 /// each test takes a process of its own.
 #pragma once
 
-#include "support/rows.hpp"
 #include "support/temp_tree.hpp"
 
 #include <fl/i18n/locale.hpp>
@@ -15,11 +14,12 @@ namespace fl::testing {
 /// "main" and "addon" share some catalogs; "bare" has no resources.
 struct catalog_tree : ::testing::Test, temp_tree {
     catalog_tree() {
-        for (auto const& [root, name] : testing::rows<2>(
-                 "main app/en/text  main app/de/text  third app/en/third  addon app/en/text  "
-                 "addon app/de/text  addon app/de_CH/text  addon app/fr/text  addon app/en/second  "
-                 "addon app/de/only_german  addon extra/en/sub/deep/leaf"))
-            write(root, name, root + "/" + name);
+        for (char const* const name : {"app/en/text", "app/de/text"})
+            write("main", name, std::string("main/") + name);
+        for (char const* const name : {"app/en/text", "app/de/text", "app/de_CH/text", "app/fr/text",
+                                       "app/en/second", "app/de/only_german", "extra/en/sub/deep/leaf"})
+            write("addon", name, std::string("addon/") + name);
+        write("third", "app/en/third", "third/app/en/third");
         file("bare/file");
     }
 

@@ -32,7 +32,10 @@ struct CatalogXml : ::testing::Test, fl::testing::temp_tree, MessageCatalogDataS
 };
 
 TEST_F(CatalogXml, Entries) {
-    std::pair<char const*, texts> const rows[] = {
+    struct {
+        char const* entries;
+        texts expected;
+    } const rows[] = {
         {"<entry key='k'>  one\n\t two  words \n\n  three\n</entry>", {{"k", "one two  words three"}}},
         {"<entry key='k'> \n </entry><entry key='l'/>", {{"k", ""}, {"l", ""}}},
         {"<entry key='k'>first</entry> between <entry key='k'>second</entry>", {{"k", "first"}}},
@@ -51,22 +54,21 @@ TEST_F(CatalogXml, Entries) {
 
 TEST_F(CatalogXml, OrderOfElements) {
     // Behind an unknown attribute the next item counts as a name again, be it a value.
-    std::string const good = "<rsccat/> | <rsccat>t<message>t</message>t</rsccat> | <rsccat a='b' c='d'/> |"
-                             "<rsccat version='locale'/> | <rsccat a='version' c='d'/> |"
-                             "<rsccat><message/><entry key='k'/></rsccat>"; // end tags change nothing
-    std::string const bad =
-        "| <other/> | <RSCCAT/> | <rsccat a='locale'/> | <rsccat a='b' c='version'/> |"
-        "<rsccat><rsccat/></rsccat> | <rsccat><entry key='k'/></rsccat> | <rsccat><other/></rsccat> |"
-        "<rsccat><message/><message/></rsccat> | <rsccat><message><message/></message></rsccat> |"
-        "<rsccat><message><entry key='k'/></message><message/></rsccat>";
-    std::string const bad_entries =
-        "<rsccat/> | <entry key='k'/><other/> | <entry/> | <entry key=''/> | <entry Key='k'/> |"
-        "<entry key='k'/><entry/> | <entry key='k'>x<entry key='l'/>z</entry> | <entry key='k'><b/></entry>";
-    std::vector<std::string> rows;
-    for (auto const& [documents, loads] : {std::pair(good, true), {bad, false}})
-        for (std::string const& document : boost::split(rows, documents, boost::is_any_of("|")))
-            EXPECT_EQ(load(document), loads) << document;
-    for (std::string const& entries : boost::split(rows, bad_entries, boost::is_any_of("|")))
+    for (char const* const document :
+         {"<rsccat/>", "<rsccat>t<message>t</message>t</rsccat>", "<rsccat a='b' c='d'/>",
+          "<rsccat version='locale'/>", "<rsccat a='version' c='d'/>",
+          "<rsccat><message/><entry key='k'/></rsccat>"}) // end tags change nothing
+        EXPECT_TRUE(load(document)) << document;
+    for (char const* const document :
+         {"", "<other/>", "<RSCCAT/>", "<rsccat a='locale'/>", "<rsccat a='b' c='version'/>",
+          "<rsccat><rsccat/></rsccat>", "<rsccat><entry key='k'/></rsccat>", "<rsccat><other/></rsccat>",
+          "<rsccat><message/><message/></rsccat>", "<rsccat><message><message/></message></rsccat>",
+          "<rsccat><message><entry key='k'/></message><message/></rsccat>"})
+        EXPECT_FALSE(load(document)) << document;
+    for (char const* const entries :
+         {"<rsccat/>", "<entry key='k'/><other/>", "<entry/>", "<entry key=''/>", "<entry Key='k'/>",
+          "<entry key='k'/><entry/>", "<entry key='k'>x<entry key='l'/>z</entry>",
+          "<entry key='k'><b/></entry>"})
         EXPECT_FALSE(load(catalog(entries))) << entries;
 }
 
@@ -82,8 +84,11 @@ TEST_F(CatalogXml, DamagedFilesEndInAnAnswer) {
             refused += !load(damaged);
         }
     }
-    EXPECT_TRUE(load(whole) && load(whole + "\n") && !load(whole + "x"));
-    EXPECT_TRUE(1000 < refused && refused < 1900) << refused;
+    EXPECT_TRUE(load(whole));
+    EXPECT_TRUE(load(whole + "\n"));
+    EXPECT_FALSE(load(whole + "x"));
+    EXPECT_TRUE(1000 < refused && refused < 1900)
+        << refused << " of 2048, since many a text is as good as another";
 }
 
 // The one has 10^10 characters, the other outgrows the stack unless it is refused before.

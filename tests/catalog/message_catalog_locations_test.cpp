@@ -11,14 +11,14 @@ using fl::ustring;
 using fl::testing::failure;
 using roots = std::vector<ustring>;
 
-using AdditionalLocations = fl::testing::catalog_tree;
+using MessageCatalogLocations = fl::testing::catalog_tree;
 
 constexpr auto add = MessageCatalog::set_additional_resource_locations;
 constexpr auto remove_root = MessageCatalog::remove_additional_resource_location;
 
 constexpr auto count = [] { return MessageCatalogImpl::getTopLevelResourceLocations().size(); };
 
-TEST_F(AdditionalLocations, RefuseWhatTheyCannotUse) {
+TEST_F(MessageCatalogLocations, RefuseWhatTheyCannotUse) {
     EXPECT_THROW(add({}), MessageCatalog::MessageCatalogNotInitialized);
     EXPECT_THROW(remove_root(addon_), MessageCatalog::MessageCatalogNotInitialized);
     ASSERT_TRUE(MessageCatalog::MessageCatalogInit(main_));
@@ -33,43 +33,50 @@ TEST_F(AdditionalLocations, RefuseWhatTheyCannotUse) {
     EXPECT_EQ(1U, count());
 }
 
-TEST_F(AdditionalLocations, WinOnlyByABetterLocaleAndTakeTheirCatalogsWithThem) {
-    // Locale, catalog, and which one answers before they come, while they are there and behind them.
-    auto const table =
-        fl::testing::rows<5>("de_CH app:text main/app/de/text addon/app/de_CH/text main/app/de/text "
-                             "de_DE app:text main/app/de/text main/app/de/text main/app/de/text "
-                             "ja_JP extra:sub:deep:leaf none addon/extra/en/sub/deep/leaf none "
-                             "en_US app:third none third/app/en/third third/app/en/third "
-                             "fr_FR app:second none addon/app/en/second none "
-                             // Not among the English files, by which the catalogs of a location are known:
-                             "de_DE app:only_german none addon/app/de/only_german addon/app/de/only_german");
-    auto const expect_answers = [&](std::size_t column) {
-        for (auto const& row : table)
-            EXPECT_EQ(row[column], answer(row[0].c_str(), row[1])) << row[0] << row[1] << column;
+TEST_F(MessageCatalogLocations, WinOnlyByABetterLocaleAndTakeTheirCatalogsWithThem) {
+    struct row {
+        char const *locale, *catalog, *before, *meanwhile, *behind; // where the catalog lies that answers
+    };
+    row const rows[] = {
+        {"de_CH", "app:text", "main/app/de/text", "addon/app/de_CH/text", "main/app/de/text"},
+        {"de_DE", "app:text", "main/app/de/text", "main/app/de/text", "main/app/de/text"},
+        {"ja_JP", "extra:sub:deep:leaf", "none", "addon/extra/en/sub/deep/leaf", "none"},
+        {"en_US", "app:third", "none", "third/app/en/third", "third/app/en/third"},
+        {"fr_FR", "app:second", "none", "addon/app/en/second", "none"},
+        // Not among the English files, by which the catalogs of a location are known:
+        {"de_DE", "app:only_german", "none", "addon/app/de/only_german", "addon/app/de/only_german"},
+    };
+    auto const expect_answers = [&](char const* row::*expected) {
+        for (row const& row : rows)
+            EXPECT_EQ(row.*expected, answer(row.locale, row.catalog)) << row.locale << " " << row.catalog;
     };
     ASSERT_TRUE(MessageCatalog::MessageCatalogInit(main_));
-    expect_answers(2);
+    expect_answers(&row::before);
     add({addon_ + u"//", text(u"third"), addon_});
     add({main_, addon_});
     EXPECT_EQ("main/app/de/text", answer("de_CH")) << "a loaded catalog stays until it is flushed";
     MessageCatalog::FlushCatalogFromCache(CatalogID("app:text"));
-    expect_answers(3);
+    expect_answers(&row::meanwhile);
     remove_root(addon_);
-    expect_answers(4);
+    expect_answers(&row::behind);
     std::filesystem::remove_all(root() / "main");
     remove_root(main_); // which is there from the start as well, so that nothing is looked at on the disk
     EXPECT_EQ(2U, count());
 }
 
-TEST_F(AdditionalLocations, StayWhenTheirRemovalFails) {
+TEST_F(MessageCatalogLocations, StayWhenTheirRemovalFails) {
     ASSERT_TRUE(MessageCatalog::MessageCatalogInit(main_));
     add({addon_});
     file("addon/resources/no_component.xml");
-    for (auto const& [name, reason] :
-         fl::testing::rows<2>("app/en/bad-name.xml Bad  app/en/n\u00e4me.xml ~  german/de/x ~")) {
+    struct {
+        std::string file, reason;
+    } const rows[] = {
+        {"app/en/bad-name.xml", "Bad Catalog ID"}, {"app/en/n\u00e4me.xml", ""}, {"german/de/x", ""}};
+    for (auto const& [name, reason] : rows) {
         std::filesystem::path const bad = file("addon/resources/" + name);
         auto const told = failure<MessageCatalog::ResPathRemovalUnknownError>(remove_root, addon_);
-        EXPECT_EQ(told.find("Unknown error while removal of path! Error : " + reason), 0U) << name;
+        EXPECT_TRUE(told.starts_with("Unknown error while removal of path! Error : " + reason))
+            << name << told;
         std::filesystem::remove(bad);
     }
     std::filesystem::rename(root() / "addon", root() / "gone");
@@ -84,7 +91,7 @@ TEST_F(AdditionalLocations, StayWhenTheirRemovalFails) {
 }
 
 // ThreadSanitizer judges, so do the texts.
-TEST_F(AdditionalLocations, ComeAndGoWhileOthersLookUp) {
+TEST_F(MessageCatalogLocations, ComeAndGoWhileOthersLookUp) {
     fl::testing::run_in_threads(6, [this](int number) {
         MessageCatalog::MessageCatalogInit(main_);
         for (int round = 0; round < 40; ++round) {

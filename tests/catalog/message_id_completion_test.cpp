@@ -7,7 +7,6 @@
 #include <boost/algorithm/string.hpp>
 
 #include <set>
-#include <tuple>
 
 using namespace fl::i18n;
 using fl::ustring;
@@ -44,7 +43,11 @@ struct MessageIdCompletion : fl::testing::catalog_tree {
 };
 
 TEST_F(MessageIdCompletion, ListsWhatMayFollow) {
-    std::tuple<ustring, std::string, std::int32_t> const rows[] = {
+    struct {
+        ustring input;
+        std::string completions;
+        std::int32_t position;
+    } const rows[] = {
         {u"", "KESTRUNE: app: c: ", 0},
         {u"C", "c: ", 0},
         {u"c:", "xa: xa: xa: yb: ", 2},
@@ -59,15 +62,18 @@ TEST_F(MessageIdCompletion, ListsWhatMayFollow) {
         {u"c:xa:n1:\u00E4", "", 0},
         {u"c:nope:\u00E4", "", 7}, // ...unless no key is compared with it
     };
-    for (auto const& [input, expected, position] : rows) {
-        EXPECT_EQ(expected, completions(input)) << testing::PrintToString(input);
-        EXPECT_EQ(position, getMessageIdCompletions(input).position) << testing::PrintToString(input);
+    for (auto const& row : rows) {
+        SCOPED_TRACE(testing::PrintToString(row.input));
+        EXPECT_EQ(row.completions, completions(row.input));
+        EXPECT_EQ(row.position, getMessageIdCompletions(row.input).position);
     }
 }
 
 TEST_F(MessageIdCompletion, CountsWhatStandsBeforeABreak) {
     std::string const one = "<entry key='e:one'/>";
-    std::pair<std::string, char const*> const rows[] = {
+    struct {
+        std::string entries, completions;
+    } const rows[] = {
         {one + "<x/><entry key='e:two'/>", "one: "},
         {one + "<entry key='e:two'><entry key='e:three'/></entry>", "one: two: "},
         {"<entry x='key' y='e:two'/>" + one, "one: "},           // a value is read as a name
@@ -75,9 +81,9 @@ TEST_F(MessageIdCompletion, CountsWhatStandsBeforeABreak) {
         {one + "<entry key='e:t\xC3\xA4'/>", ""},                // a failure
         {one + "&x;<entry key='e:two'/>", "one: "},
     };
-    for (auto const& [content, expected] : rows) {
-        file(maps + "e/catalog_map.xml", "<MessageCatalogMap>" + content + "</MessageCatalogMap>");
-        EXPECT_EQ(expected, completions(u"e:")) << content;
+    for (auto const& row : rows) {
+        file(maps + "e/catalog_map.xml", "<MessageCatalogMap>" + row.entries + "</MessageCatalogMap>");
+        EXPECT_EQ(row.completions, completions(u"e:")) << row.entries;
     }
     // Cut anywhere, and any unit damaged: what stands before that counts.
     std::string const whole = "<MessageCatalogMap>" + one + "<entry key='e:two'/></MessageCatalogMap>";
@@ -99,9 +105,10 @@ TEST_F(MessageIdCompletion, CountsWhatStandsBeforeABreak) {
 }
 
 TEST_F(MessageIdCompletion, EndsInALoopOfLinks) {
-    for (auto const& [link, target] :
-         {std::pair("loop1", "."), {"loop2", "."}, {"loop3", "."}, {"self", "self"}, {"dangling", "nowhere"}})
-        std::filesystem::create_symlink(target, root() / maps / "c" / link);
+    for (char const* const loop : {"loop1", "loop2", "loop3"})
+        std::filesystem::create_symlink(".", root() / maps / "c" / loop);
+    std::filesystem::create_symlink("self", root() / maps / "c/self");
+    std::filesystem::create_symlink("nowhere", root() / maps / "c/dangling");
     std::filesystem::create_symlink("self", root() / "main/resources/self");
     std::filesystem::create_symlink(root() / "aside", root() / maps / "c/linked");
     map("aside", "c:linked:n");

@@ -5,8 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <tuple>
-
 using namespace fl::i18n;
 using fl::ustring;
 using fl::filesystem::upath;
@@ -26,7 +24,12 @@ struct ResourceFinder : ::testing::Test, fl::testing::temp_tree {
 };
 
 TEST_F(ResourceFinder, TakesTheFirstFileOfTheFirstLocale) {
-    std::tuple<char const*, bool, ustring, ustring, char const*> const rows[] = {
+    struct {
+        char const* locale;
+        bool use_fallback;
+        ustring pattern, file;
+        char const* found_locale;
+    } const rows[] = {
         {"de_AT", true, u"%S/x.xml", u"b/de/x.xml", "de"}, // the locale decides before the directory
         {"fr_FR", true, u"%S/x.xml", u"a/en/x.xml", "en"},
         {"de_CH", true, u"%S/only_ch.xml", u"b/de_CH/only_ch.xml", "de_CH"},
@@ -38,15 +41,15 @@ TEST_F(ResourceFinder, TakesTheFirstFileOfTheFirstLocale) {
         {"de_AT", true, u"%S/%S.xml", u"", ""},      // only the first marker is replaced
     };
     std::string found = "before";
-    for (auto const& [name, fallback, pattern, file, answer] : rows) {
-        SCOPED_TRACE(name + std::string(pattern.begin(), pattern.end()));
-        auto const locale = QnLocale::createLocale(name);
-        resource_finder const finder(bases_, *locale, fallback, u"");
-        EXPECT_EQ(below(file), finder.find(pattern));
-        EXPECT_EQ(answer, finder.get_locale());
-        EXPECT_EQ(below(file),
-                  resource_finder::find_resource(bases_, pattern, found, *locale, fallback, u""));
-        EXPECT_EQ(file.empty() ? "" : answer, found);
+    for (auto const& row : rows) {
+        SCOPED_TRACE(row.locale + testing::PrintToString(row.pattern));
+        auto const locale = QnLocale::createLocale(row.locale);
+        resource_finder const finder(bases_, *locale, row.use_fallback, u"");
+        EXPECT_EQ(below(row.file), finder.find(row.pattern));
+        EXPECT_EQ(row.found_locale, finder.get_locale());
+        EXPECT_EQ(below(row.file),
+                  resource_finder::find_resource(bases_, row.pattern, found, *locale, row.use_fallback, u""));
+        EXPECT_EQ(row.file.empty() ? "" : row.found_locale, found);
     }
     EXPECT_EQ(below(u"b/de/x.xml"),
               resource_finder::find_resource(text(u"b//%S/x.xml"), found, *german_, true, u""));
