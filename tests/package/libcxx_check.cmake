@@ -20,7 +20,7 @@ set(src "${SOURCE_DIR}/src")
 run(${compile} -Wall -Wextra -Wconversion -Werror -pthread
   "-I${SOURCE_DIR}/include" "-I${src}" "-I${SOURCE_DIR}/tests" -idirafter "${BOOST_INCLUDE}"
   "${CMAKE_CURRENT_LIST_DIR}/libcxx_check.cpp"
-  "${src}/locale_runtime/context/char16_facets.cpp" "${src}/locale_runtime/context/std_locale.cpp"
+  "${src}/locale_runtime/context/std_locale.cpp" "${src}/locale_runtime/context/std_locale_facets.cpp"
   "${src}/date_time/date_time_input.cpp" "${src}/date_time/date_time.cpp"
   "${src}/conversion/codecs/codecvt_ascii.cpp" "${src}/conversion/contract/converter.cpp"
   "${src}/conversion/contract/cvt_exceptions.cpp"

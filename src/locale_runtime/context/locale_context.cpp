@@ -1,5 +1,6 @@
 #include "locale_runtime/context/discovery_record.hpp"
 #include "locale_runtime/context/global_locale_slot.hpp"
+#include "support/ascii.hpp"
 #include "support/once_value.hpp"
 #include "support/raise.hpp"
 
@@ -27,6 +28,14 @@ T& present(T* locale) {
     if (!locale)
         support::raise(QnLcDataNotFound());
     return *locale;
+}
+
+template <class Map, class Key>
+auto const& find_or_raise(Map const& map, Key const& key) {
+    auto const found = map.find(key);
+    if (found == map.end())
+        support::raise(QnLcDataNotFound());
+    return found->second;
 }
 
 } // namespace
@@ -96,6 +105,38 @@ void QnLocaleCtx::set_icu_defaults() {
     icu::Locale::setDefault(icu::Locale(built_in_locale), status);
     if (U_FAILURE(status))
         log_event(init_title, "Failed to set default locale", status);
+}
+
+void QnLocaleCtx::initCatNameTbl() {
+    category_by_name_ = {
+        {"ctype", QnLocale::ctype},     {"collate", QnLocale::collate},   {"time", QnLocale::time},
+        {"numeric", QnLocale::numeric}, {"monetary", QnLocale::monetary}, {"messages", QnLocale::messages},
+    };
+    for (auto const& [name, category] : category_by_name_)
+        name_by_category_.emplace(category, name);
+}
+
+void QnLocaleCtx::initOptDataTypeTbl() {
+    optional_data_by_name_ = {
+        {"jvmencoding", QnLcOptDataCtx::jvm_encoding},
+        {"termencoding", QnLcOptDataCtx::terminal_encoding},
+        {"terminputencoding", QnLcOptDataCtx::terminal_input_encoding},
+        {"termoutputencoding", QnLcOptDataCtx::terminal_output_encoding},
+        {"papersize", QnLcOptDataCtx::paper_size},
+        {"unittype", QnLcOptDataCtx::measurement_system},
+    };
+}
+
+QnLocale::LcCategory QnLocaleCtx::getLcCategory(std::string_view name) const {
+    return find_or_raise(category_by_name_, support::ascii_lower_copy(name));
+}
+
+std::string QnLocaleCtx::getLcCatName(QnLocale::LcCategory category) const {
+    return find_or_raise(name_by_category_, category);
+}
+
+QnLcOptDataCtx::LcOptDataType QnLocaleCtx::getOptDataType(std::string_view name) const {
+    return find_or_raise(optional_data_by_name_, support::ascii_lower_copy(name));
 }
 
 QnLocale const& QnLocaleCtx::classic() const {

@@ -1,7 +1,7 @@
 // The start-up of the context: what `initLcMgmtSystem` runs once. The mutex is held from the first step to
 // the last, so nothing in here may call what takes it.
 #include "locale_runtime/startup/database_file.hpp"
-#include "locale_runtime/startup/l10n_control.hpp"
+#include "locale_runtime/startup/locale_discovery_steps.hpp"
 #include "support/ascii.hpp"
 #include "support/raise.hpp"
 

@@ -55,6 +55,18 @@ QnLocale const& QnLocale::system() {
     return lcmgmt::get_qnlocale_context()->system();
 }
 
+QnLocale::LcCategory QnLocale::getLcCategory(std::string const& name) {
+    return lcmgmt::get_qnlocale_context()->getLcCategory(name);
+}
+
+std::string QnLocale::getLcCategoryName(LcCategory category) {
+    return lcmgmt::get_qnlocale_context()->getLcCatName(category);
+}
+
+QnLcOptDataCtx::LcOptDataType QnLcOptDataCtx::getOptDataType(std::string const& name) {
+    return lcmgmt::get_qnlocale_context()->getOptDataType(name);
+}
+
 std::shared_ptr<QnLocale const> QnLocale::createLocale(std::string const& name) {
     return make_locale(name);
 }

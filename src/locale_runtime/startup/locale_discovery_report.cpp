@@ -1,4 +1,4 @@
-#include "locale_runtime/startup/discovery_fields.hpp"
+#include "locale_runtime/startup/locale_discovery_steps.hpp"
 
 #include <fl/i18n/locale_discovery.hpp>
 

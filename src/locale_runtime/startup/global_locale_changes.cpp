@@ -1,6 +1,6 @@
 // What may replace the global locale once it is there.
 #include "locale_runtime/context/global_locale_slot.hpp"
-#include "locale_runtime/startup/l10n_control.hpp"
+#include "locale_runtime/startup/locale_discovery_steps.hpp"
 
 #include <fl/i18n/discovery_record.hpp>
 #include <fl/i18n/locale_context.hpp>

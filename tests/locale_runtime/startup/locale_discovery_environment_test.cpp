@@ -10,7 +10,7 @@
 using namespace fl::i18n::lcmgmt;
 using fl::testing::environment;
 
-TEST(DiscoveryEnvironment, EachVariableIsReplacedThenMessagesAlone) {
+TEST(LocaleDiscoveryEnvironment, EachVariableIsReplacedThenMessagesAlone) {
     for (char const* const name : fl::testing::locale_variables)
         ::setenv(name, "old", 1);
     locale_context found;

@@ -1,5 +1,5 @@
-/// The six categories and the eight variables of the C library, with the members of the record that belong to
-/// them.
+/// What the steps of discovery share: the steps themselves, and the six categories and eight variables of the C
+/// library with the members of the record that belong to them.
 #pragma once
 
 #include <fl/i18n/discovery_record.hpp>
@@ -7,8 +7,23 @@
 #include <array>
 #include <clocale>
 #include <cstddef>
+#include <cstdint>
 
 namespace fl::i18n::lcmgmt {
+
+class locale_database;
+
+/// The values of `locale_context::l10n_control`: whether messages are translated.
+enum : std::int32_t { l10n_unspecified = 0, l10n_on = 1, l10n_off = 2 };
+
+/// First step: what the system says, as it is. Reads preferences, C library locale and environment into the
+/// record. Afterwards the C library is in the locale that the environment names, as far as that exists.
+void capture_system(locale_context& found);
+
+/// Second step: which locale this shall be, and which names and variables of the C library. Decides from what
+/// `capture_system` has found, and writes into the same record. Returns whether the user's locale is usable;
+/// if not, the record holds the built-in locale.
+bool decide_locale(locale_context& found, locale_database const& database);
 
 /// An entry in the record, and the name under which it is reported.
 struct record_field {

@@ -1,7 +1,4 @@
-#include "locale_runtime/startup/discovery_capture.hpp"
-#include "locale_runtime/startup/discovery_decision.hpp"
-#include "locale_runtime/startup/discovery_fields.hpp"
-#include "locale_runtime/startup/l10n_control.hpp"
+#include "locale_runtime/startup/locale_discovery_steps.hpp"
 
 #include <fl/i18n/locale_context.hpp>
 #include <fl/i18n/locale_discovery.hpp>

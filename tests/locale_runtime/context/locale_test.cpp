@@ -7,7 +7,7 @@
 using namespace fl::i18n;
 using categories = std::vector<QnLocale::CategoryContext>;
 
-TEST(LocaleFactory, NamesAreResolved) {
+TEST(Locale, NamesAreResolved) {
     for (auto const& [name, ctype, messages, modifier, encoding] : fl::testing::rows<5>(
              "de_DE de_DE de_DE ~ ISO-8859-1  iw he_IL he_IL ~ UTF-8  en_US_POSIX en_US_POSIX en_US ~ UTF-8  "
              "sr_Latn-BA sr-Latn_BA sr-Latn_BA ~ windows-1250  de_DE.utf-16le de_DE de_DE ~ UTF-16LE  "
@@ -33,7 +33,7 @@ static std::string refused(auto const& call) {
     return "ok";
 }
 
-TEST(LocaleFactory, EachFormRefusesBadNames) {
+TEST(Locale, EachFormRefusesBadNames) {
     auto const de = QnLocale::createLocale("de_DE");
     auto const zero = std::string("UTF-8") + '\0' + "x";
     std::string const rows[][3] = {
@@ -55,7 +55,7 @@ TEST(LocaleFactory, EachFormRefusesBadNames) {
     EXPECT_THROW(QnLocale::createLocale(*de, static_cast<QnLocale::LcCategory>(6), *de), QnLcDataNotFound);
 }
 
-TEST(LocaleFactory, ReplacedCategoryLeavesTheRestAlone) {
+TEST(Locale, ReplacedCategoryLeavesTheRestAlone) {
     auto const base = QnLocale::createLocale("de_DE@euro");
     auto const from_name = QnLocale::createLocale("de_DE@euro", QnLocale::messages, "fr_FR.ISO-8859-1@x");
     EXPECT_EQ(from_name->shortName(QnLocale::messages) + from_name->modifier(QnLocale::messages), "fr_FR@x");
