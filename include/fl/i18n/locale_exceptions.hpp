@@ -24,15 +24,11 @@ namespace fl::i18n {
 /// Root of the family.
 class FL_I18N_EXPORT QnLcMgmtExceptionBase : public std::exception {
 public:
-    QnLcMgmtExceptionBase(QnLcMgmtExceptionBase const&) = default;
-    QnLcMgmtExceptionBase& operator=(QnLcMgmtExceptionBase const&) = default;
-    ~QnLcMgmtExceptionBase() override;
-
     /// The error id, the same text as `error_id()`, not the message. Valid as long as the exception.
     char const* what() const noexcept override;
 
     /// The error id, "fl:i18n:" and the name of the class.
-    std::string const& error_id() const noexcept { return error_id_; }
+    std::string const& error_id() const noexcept { return id_; }
     /// The number of the class within the family: 1, 2 or 4.
     std::int32_t code() const noexcept { return code_; }
     /// An English sentence without the argument.
@@ -41,10 +37,14 @@ public:
     std::string const& argument() const noexcept { return argument_; }
 
 protected:
-    QnLcMgmtExceptionBase(std::string error_id, std::int32_t code, std::string message, std::string argument);
+    QnLcMgmtExceptionBase(std::string id, std::int32_t code, std::string message, std::string argument);
 
 private:
-    std::string error_id_;
+    // Overridden out of line by each class of the family: that anchors its virtual table and its type
+    // information, by which handlers in other modules know it, in one object file.
+    virtual void anchor() const;
+
+    std::string id_;
     std::int32_t code_;
     std::string message_;
     std::string argument_;
@@ -54,27 +54,27 @@ private:
 class FL_I18N_EXPORT QnLcDataNotFound : public QnLcMgmtExceptionBase {
 public:
     QnLcDataNotFound();
-    QnLcDataNotFound(QnLcDataNotFound const&) = default;
-    QnLcDataNotFound& operator=(QnLcDataNotFound const&) = default;
-    ~QnLcDataNotFound() override;
+
+private:
+    void anchor() const override;
 };
 
 /// A locale name is empty, or a type of optional data is out of range. Code 4, no argument.
 class FL_I18N_EXPORT QnLcInvLcArgument : public QnLcMgmtExceptionBase {
 public:
     QnLcInvLcArgument();
-    QnLcInvLcArgument(QnLcInvLcArgument const&) = default;
-    QnLcInvLcArgument& operator=(QnLcInvLcArgument const&) = default;
-    ~QnLcInvLcArgument() override;
+
+private:
+    void anchor() const override;
 };
 
 /// A locale name, or the encoding part of one, is unknown. Code 1; the argument is the rejected part.
 class FL_I18N_EXPORT QnLcInvLcName : public QnLcMgmtExceptionBase {
 public:
     explicit QnLcInvLcName(std::string name);
-    QnLcInvLcName(QnLcInvLcName const&) = default;
-    QnLcInvLcName& operator=(QnLcInvLcName const&) = default;
-    ~QnLcInvLcName() override;
+
+private:
+    void anchor() const override;
 };
 
 } // namespace fl::i18n

@@ -4,32 +4,32 @@
 
 namespace fl::i18n {
 
-QnLcMgmtExceptionBase::QnLcMgmtExceptionBase(std::string error_id, std::int32_t code, std::string message,
+QnLcMgmtExceptionBase::QnLcMgmtExceptionBase(std::string id, std::int32_t code, std::string message,
                                              std::string argument)
-    : error_id_(std::move(error_id)),
+    : id_(std::move(id)),
       code_(code),
       message_(std::move(message)),
       argument_(std::move(argument)) {}
 
-QnLcMgmtExceptionBase::~QnLcMgmtExceptionBase() = default;
-
 char const* QnLcMgmtExceptionBase::what() const noexcept {
-    return error_id_.c_str();
+    return id_.c_str();
 }
+
+void QnLcMgmtExceptionBase::anchor() const {}
 
 QnLcDataNotFound::QnLcDataNotFound()
     : QnLcMgmtExceptionBase("fl:i18n:QnLcDataNotFound", 2, "Locale data not found.", "") {}
 
-QnLcDataNotFound::~QnLcDataNotFound() = default;
+void QnLcDataNotFound::anchor() const {}
 
 QnLcInvLcArgument::QnLcInvLcArgument()
     : QnLcMgmtExceptionBase("fl:i18n:QnLcInvLcArgument", 4, "Invalid argument.", "") {}
 
-QnLcInvLcArgument::~QnLcInvLcArgument() = default;
+void QnLcInvLcArgument::anchor() const {}
 
 QnLcInvLcName::QnLcInvLcName(std::string name)
     : QnLcMgmtExceptionBase("fl:i18n:QnLcInvLcName", 1, "Invalid locale name.", std::move(name)) {}
 
-QnLcInvLcName::~QnLcInvLcName() = default;
+void QnLcInvLcName::anchor() const {}
 
 } // namespace fl::i18n
