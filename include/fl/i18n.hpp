@@ -48,6 +48,7 @@
 #include <fl/i18n/lc_data.hpp>
 #include <fl/i18n/lc_data_exceptions.hpp>
 #include <fl/i18n/lc_data_xml.hpp>
+#include <fl/i18n/lc_status.hpp>
 #include <fl/i18n/locale.hpp>
 #include <fl/i18n/locale_context.hpp>
 #include <fl/i18n/locale_database.hpp>

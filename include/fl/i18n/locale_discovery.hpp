@@ -9,7 +9,7 @@
 /// library and child processes stand on a locale that exists, with UTF-8 as its encoding. Numbers stay those
 /// of "C".
 ///
-///     // with <fl/i18n/locale_context.hpp>, <fl/i18n/locale_database.hpp> and <fl/i18n/locale_impl.hpp>
+///     // with <fl/i18n/locale_database.hpp> and <fl/i18n/locale_impl.hpp>
 ///     using namespace fl::i18n::lcmgmt;
 ///     locale_database const database;
 ///     fl::i18n::QnLocaleImpl locale(database);
@@ -31,6 +31,7 @@
 
 #include <fl/i18n/discovery_record.hpp>
 #include <fl/i18n/export.hpp>
+#include <fl/i18n/lc_status.hpp>
 
 #include <cstdint>
 #include <map>
@@ -44,7 +45,6 @@ class QnLocaleImpl;
 
 namespace lcmgmt {
 
-class LcStatusCtx;
 class locale_database;
 
 /// The steps of discovery, on objects that belong to the caller and must outlive this one. One thread at a

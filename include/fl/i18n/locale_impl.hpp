@@ -17,7 +17,6 @@
 #include <fl/i18n/locale.hpp>
 
 #include <array>
-#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -26,7 +25,8 @@ namespace fl::i18n {
 
 namespace lcmgmt {
 class locale_database;
-}
+class published_databases;
+} // namespace lcmgmt
 
 /// The one implementation of `QnLocale`. Its setters are for an object under construction: once it is shared,
 /// a locale never changes.
@@ -34,9 +34,9 @@ class FL_I18N_EXPORT QnLocaleImpl final : public QnLocale {
 public:
     /// A locale whose names and encodings are all empty. `database` must outlive it.
     explicit QnLocaleImpl(lcmgmt::locale_database const& database);
-    /// The same on the database that is in force at each use (`QnLocaleCtx::database_in_force`), as the
-    /// constructors below have it.
-    explicit QnLocaleImpl(std::atomic<lcmgmt::locale_database const*> const& database_in_force);
+    /// The same on the database that is in force at each use, as the constructors below have it. For the
+    /// library's own context, as only that has the argument.
+    explicit QnLocaleImpl(lcmgmt::published_databases const& databases);
     /// As `QnLocale::createLocale(name)`.
     explicit QnLocaleImpl(std::string const& name);
     /// As `QnLocale::createLocale(other)`: names are copied without a check. The terminal encoding becomes
@@ -96,7 +96,7 @@ private:
     lcmgmt::locale_database const& database() const noexcept;
 
     lcmgmt::locale_database const* own_database_ = nullptr; // null if the one in force counts
-    std::atomic<lcmgmt::locale_database const*> const* database_in_force_ = nullptr;
+    lcmgmt::published_databases const* databases_ = nullptr;
     std::array<category_record, 6> categories_;
     std::string encoding_;
     std::string terminal_encoding_;

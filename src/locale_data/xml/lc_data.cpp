@@ -1,7 +1,8 @@
 // What an installation says about its locales and encodings, entered where it isn't known yet.
+#include "locale_runtime/context/context_state.hpp"
+
 #include <fl/i18n/encoding_name.hpp>
 #include <fl/i18n/lc_data.hpp>
-#include <fl/i18n/locale_context.hpp>
 #include <fl/i18n/locale_name.hpp>
 
 #include <initializer_list>
@@ -22,7 +23,7 @@ void report(int status, std::string_view step, texts arguments) {
         entry.append(separator).append(argument);
         separator = ":";
     }
-    get_qnlocale_context()->log_entry(entry.append(std::to_string(status)));
+    get_context_state().log.add_entry(entry.append(std::to_string(status)));
 }
 
 /// True if a value is given that the database doesn't have.
@@ -108,7 +109,7 @@ std::string LcData::extract_short_name(std::string_view name) {
 }
 
 bool LcData::checkEncoding(std::string_view name) {
-    return get_qnlocale_context()->database().get_standard_encoding_name(name) != nullptr;
+    return get_context_state().database().get_standard_encoding_name(name) != nullptr;
 }
 
 std::string LcData::getEncodingFromAlias(std::string_view name) {

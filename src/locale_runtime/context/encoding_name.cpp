@@ -1,7 +1,7 @@
+#include "locale_runtime/context/context_state.hpp"
 #include "locale_runtime/context/locale_setting.hpp"
 
 #include <fl/i18n/encoding_name.hpp>
-#include <fl/i18n/locale_context.hpp>
 #include <fl/i18n/locale_exceptions.hpp>
 
 namespace fl::i18n::lcmgmt {
@@ -9,7 +9,7 @@ namespace fl::i18n::lcmgmt {
 namespace {
 
 char const* standard_name(std::string_view name) {
-    return get_qnlocale_context()->database().get_standard_encoding_name(name);
+    return get_context_state().database().get_standard_encoding_name(name);
 }
 
 } // namespace
@@ -28,7 +28,7 @@ bool is_supported_encoding(std::string const& name) {
     if (standard_name(name))
         return true;
     try {
-        checked_encoding_name(get_qnlocale_context()->database(), name);
+        checked_encoding_name(get_context_state().database(), name);
         return true;
     } catch (QnLcInvLcName const&) {
         return false;

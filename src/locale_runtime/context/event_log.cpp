@@ -1,4 +1,4 @@
-#include <fl/i18n/locale_context.hpp>
+#include "locale_runtime/context/event_log.hpp"
 
 #include <utility>
 
@@ -15,22 +15,22 @@ std::string make_entry(std::string_view title, std::string_view text) {
 
 } // namespace
 
-void QnLocaleCtx::log_event(std::string_view title, std::string_view text) {
-    log_entry(make_entry(title, text));
+void event_log::add(std::string_view title, std::string_view text) {
+    add_entry(make_entry(title, text));
 }
 
-void QnLocaleCtx::log_event(std::string_view title, std::string_view text, int icu_code) {
-    log_entry(make_entry(title, text) + std::to_string(icu_code));
+void event_log::add(std::string_view title, std::string_view text, int icu_code) {
+    add_entry(make_entry(title, text) + std::to_string(icu_code));
 }
 
-void QnLocaleCtx::log_entry(std::string entry) {
-    std::lock_guard const lock(records_mutex_);
-    event_log_.push_back(std::move(entry));
+void event_log::add_entry(std::string entry) {
+    support::mutex_lock const lock(mutex_);
+    entries_.push_back(std::move(entry));
 }
 
-std::vector<std::string> QnLocaleCtx::event_log() const {
-    std::lock_guard const lock(records_mutex_);
-    return event_log_;
+std::vector<std::string> event_log::entries() const {
+    support::mutex_lock const lock(mutex_);
+    return entries_;
 }
 
 } // namespace fl::i18n::lcmgmt

@@ -1,6 +1,6 @@
 #include "locale_runtime/context/global_locale_slot.hpp"
 
-#include <fl/i18n/locale_context.hpp>
+#include "locale_runtime/context/context_state.hpp"
 
 #include <unicode/ucnv.h>
 
@@ -28,7 +28,7 @@ global_locale_slot::global_locale_slot(std::unique_ptr<QnLocale const> locale)
 global_locale_slot::~global_locale_slot() = default;
 
 global_locale_slot& current_global_locale_slot() {
-    return get_qnlocale_context()->current_slot();
+    return get_context_state().current_slot();
 }
 
 } // namespace fl::i18n::lcmgmt

@@ -1,7 +1,6 @@
-#include "locale_runtime/context/global_locale_slot.hpp"
+#include "locale_runtime/context/context_state.hpp"
 #include "locale_runtime/context/locale_setting.hpp"
 
-#include <fl/i18n/locale_context.hpp>
 #include <fl/i18n/locale_impl.hpp>
 
 namespace fl::i18n {
@@ -18,7 +17,7 @@ std::shared_ptr<QnLocaleImpl> make_locale(QnLocale const& locale) {
 
 /// The setting's encoding is only checked: a locale has one encoding, that of its own name.
 void replace_category(QnLocaleImpl& locale, QnLocale::LcCategory category, std::string const& name) {
-    auto const setting = lcmgmt::resolve_locale_setting(lcmgmt::get_qnlocale_context()->database(), name);
+    auto const setting = lcmgmt::resolve_locale_setting(lcmgmt::get_context_state().database(), name);
     locale.setLcName(setting.short_name, setting.modifier, category);
 }
 
@@ -44,27 +43,27 @@ std::shared_ptr<QnLocale const> make_mixed(Base const& base,
 QnLocale::~QnLocale() = default;
 
 QnLocale const& QnLocale::classic() {
-    return lcmgmt::get_qnlocale_context()->classic();
+    return lcmgmt::get_context_state().classic();
 }
 
 QnLocale const& QnLocale::global() {
-    return lcmgmt::current_global_locale_slot().locale();
+    return lcmgmt::get_context_state().current_slot().locale();
 }
 
 QnLocale const& QnLocale::system() {
-    return lcmgmt::get_qnlocale_context()->system();
+    return lcmgmt::get_context_state().system();
 }
 
 QnLocale::LcCategory QnLocale::getLcCategory(std::string const& name) {
-    return lcmgmt::get_qnlocale_context()->getLcCategory(name);
+    return lcmgmt::get_context_state().names.category(name);
 }
 
 std::string QnLocale::getLcCategoryName(LcCategory category) {
-    return lcmgmt::get_qnlocale_context()->getLcCatName(category);
+    return lcmgmt::get_context_state().names.category_name(category);
 }
 
 QnLcOptDataCtx::LcOptDataType QnLcOptDataCtx::getOptDataType(std::string const& name) {
-    return lcmgmt::get_qnlocale_context()->getOptDataType(name);
+    return lcmgmt::get_context_state().names.optional_data(name);
 }
 
 std::shared_ptr<QnLocale const> QnLocale::createLocale(std::string const& name) {

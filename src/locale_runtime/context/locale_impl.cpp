@@ -1,7 +1,7 @@
+#include "locale_runtime/context/context_state.hpp"
 #include "locale_runtime/context/locale_setting.hpp"
 #include "support/raise.hpp"
 
-#include <fl/i18n/locale_context.hpp>
 #include <fl/i18n/locale_impl.hpp>
 #include <fl/i18n/locale_name.hpp>
 
@@ -23,11 +23,10 @@ std::string text_or_empty(char const* text) {
 
 QnLocaleImpl::QnLocaleImpl(lcmgmt::locale_database const& database) : own_database_(&database) {}
 
-QnLocaleImpl::QnLocaleImpl(std::atomic<lcmgmt::locale_database const*> const& database_in_force)
-    : database_in_force_(&database_in_force) {}
+QnLocaleImpl::QnLocaleImpl(lcmgmt::published_databases const& databases) : databases_(&databases) {}
 
 QnLocaleImpl::QnLocaleImpl(std::string const& name)
-    : QnLocaleImpl(lcmgmt::get_qnlocale_context()->database_in_force()) {
+    : QnLocaleImpl(lcmgmt::get_context_state().database_source()) {
     if (name.empty())
         support::raise(QnLcInvLcArgument());
     std::string const short_name = std::string(lcmgmt::extract_short_name(name));
@@ -45,7 +44,7 @@ QnLocaleImpl::QnLocaleImpl(std::string const& name)
 }
 
 QnLocaleImpl::QnLocaleImpl(QnLocale const& other)
-    : QnLocaleImpl(lcmgmt::get_qnlocale_context()->database_in_force()) {
+    : QnLocaleImpl(lcmgmt::get_context_state().database_source()) {
     for (std::size_t i = 0; i < categories_.size(); ++i)
         categories_[i] = {other.shortName(category_at(i)), other.modifier(category_at(i))};
     encoding_ = other.encoding();
@@ -139,7 +138,7 @@ std::string QnLocaleImpl::localeSpecificEncoding() const {
 }
 
 lcmgmt::locale_database const& QnLocaleImpl::database() const noexcept {
-    return own_database_ ? *own_database_ : *database_in_force_->load(std::memory_order_acquire);
+    return own_database_ ? *own_database_ : *databases_->in_force();
 }
 
 } // namespace fl::i18n

@@ -1,6 +1,8 @@
+// Paper, units and encodings for other programs: the optional data of a locale.
 #include "support/raise.hpp"
 
 #include <fl/i18n/locale_context.hpp>
+#include <fl/i18n/locale_database.hpp>
 #include <fl/i18n/locale_impl.hpp>
 
 #include <unicode/ulocdata.h>

@@ -1,6 +1,6 @@
 #include "locale_runtime/startup/locale_discovery_steps.hpp"
 
-#include <fl/i18n/locale_context.hpp>
+#include <fl/i18n/locale_database.hpp>
 #include <fl/i18n/locale_discovery.hpp>
 #include <fl/i18n/locale_exceptions.hpp>
 #include <fl/i18n/locale_impl.hpp>

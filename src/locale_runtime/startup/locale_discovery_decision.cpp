@@ -52,8 +52,8 @@ std::string stem_of(std::string const& name) {
     return name.substr(0, name.find('.'));
 }
 
-// The following call `setlocale` for their candidates and leave the C library in "C" if one was taken. The result
-// is empty where none is, and for an empty locale, of which the C library isn't asked.
+// The following call `setlocale` for their candidates and leave the C library in "C" if one was taken. The
+// result is empty where none is, and for an empty locale, of which the C library isn't asked.
 
 /// A name without an encoding, or the one that the system needs one for.
 std::string tested_xpg_name(locale_database const& database, std::string const& locale) {

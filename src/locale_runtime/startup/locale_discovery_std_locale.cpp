@@ -1,5 +1,6 @@
 // Whether the standard library gets along with the environment, and the way back if it doesn't.
-#include <fl/i18n/locale_context.hpp>
+#include "locale_runtime/context/context_state.hpp"
+
 #include <fl/i18n/locale_discovery.hpp>
 
 #include <locale>
@@ -31,19 +32,19 @@ std::vector<std::int32_t> check_std_locale_valid() {
 }
 
 bool is_std_locale_valid() {
-    return get_qnlocale_context()->with_discovery(
+    return get_context_state().with_discovery(
         [](locale_context const&) { return check_std_locale_valid().empty(); });
 }
 
 void fix_invalid_std_locale() {
-    get_qnlocale_context()->with_discovery([](locale_context const& found) {
+    get_context_state().with_discovery([](locale_context const& found) {
         if (!check_std_locale_valid().empty())
             redefine_xpg_locale_env(found);
     });
 }
 
 original_locale_setting get_original_user_locale_setting() {
-    return get_qnlocale_context()->with_discovery(&extract_system_setting_from_locale_context);
+    return get_context_state().with_discovery(&extract_system_setting_from_locale_context);
 }
 
 } // namespace fl::i18n::lcmgmt

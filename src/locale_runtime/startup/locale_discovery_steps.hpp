@@ -1,5 +1,5 @@
-/// What the steps of discovery share: the steps themselves, and the six categories and eight variables of the C
-/// library with the members of the record that belong to them.
+/// What the steps of discovery share: the steps themselves, and the six categories and eight variables of the
+/// C library with the members of the record that belong to them.
 #pragma once
 
 #include <fl/i18n/discovery_record.hpp>

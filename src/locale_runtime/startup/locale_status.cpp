@@ -1,13 +1,14 @@
-#include <fl/i18n/locale_context.hpp>
+#include "locale_runtime/context/context_state.hpp"
+
 #include <fl/i18n/locale_discovery.hpp>
 #include <fl/i18n/locale_status.hpp>
 
 namespace fl::i18n {
 
-using lcmgmt::get_qnlocale_context;
+using lcmgmt::get_context_state;
 
 std::int32_t QnLcUtil::getLcStatus() {
-    return get_qnlocale_context()->status().code();
+    return get_context_state().status.code();
 }
 
 std::string QnLcUtil::getInitStatusMsg() {
@@ -25,19 +26,19 @@ std::string QnLcUtil::getInitStatusMsg() {
 }
 
 std::string QnLcUtil::getInitWarningMsg() {
-    return get_qnlocale_context()->status().warning();
+    return get_context_state().status.warning();
 }
 
 std::map<std::string, std::string> QnLcUtil::getLocaleInformation() {
-    return get_qnlocale_context()->with_discovery(lcmgmt::get_locale_setting_from_system);
+    return get_context_state().with_discovery(lcmgmt::get_locale_setting_from_system);
 }
 
 std::vector<std::string> QnLcUtil::getEventLog() {
-    return get_qnlocale_context()->event_log();
+    return get_context_state().log.entries();
 }
 
 std::map<std::string, std::string> QnLcUtil::getDataPathNames() {
-    return get_qnlocale_context()->getDataPathNames();
+    return get_context_state().front.getDataPathNames();
 }
 
 } // namespace fl::i18n

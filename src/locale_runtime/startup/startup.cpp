@@ -1,6 +1,8 @@
+#include "locale_runtime/startup/global_locale_changes.hpp"
+#include "locale_runtime/startup/locale_management.hpp"
+
 #include <fl/filesystem/install_path.hpp>
 #include <fl/i18n/environment.hpp>
-#include <fl/i18n/locale_context.hpp>
 #include <fl/i18n/startup.hpp>
 
 #include <boost/thread/once.hpp>
@@ -9,7 +11,7 @@ namespace fl::i18n {
 
 namespace {
 
-using lcmgmt::get_qnlocale_context;
+using lcmgmt::get_context_state;
 
 // Both regions let a call that failed be repeated.
 constinit boost::once_flag locale_management = BOOST_ONCE_INIT;
@@ -26,7 +28,7 @@ void set_time_zone_directory() {
 } // namespace
 
 void initLcMgmtSystem() {
-    boost::call_once(locale_management, [] { get_qnlocale_context()->initLocaleMgmt(); });
+    boost::call_once(locale_management, [] { lcmgmt::start(get_context_state()); });
 }
 
 void initialize() {
@@ -35,27 +37,27 @@ void initialize() {
 }
 
 void disable_l10n_resource() {
-    get_qnlocale_context()->disable_l10n_rsc();
+    lcmgmt::disable_l10n(get_context_state());
 }
 
 bool get_l10n_resource_status() {
-    return get_qnlocale_context()->get_l10n_rsc_status();
+    return lcmgmt::is_l10n_enabled(get_context_state());
 }
 
 void change_global_locale(QnLocale const& locale) {
-    get_qnlocale_context()->change_current_locale(locale);
+    lcmgmt::change_global_locale(get_context_state(), locale);
 }
 
 void lock_global_locale_setting() {
-    get_qnlocale_context()->lock_current_locale();
+    lcmgmt::lock_global_locale(get_context_state());
 }
 
 bool set_lc_messages(std::string const& name) {
-    return get_qnlocale_context()->set_lc_messages(name);
+    return lcmgmt::set_global_messages(get_context_state(), name);
 }
 
 bool experimental::set_global_locale(std::string const& name) {
-    return get_qnlocale_context()->setLocale(name);
+    return lcmgmt::replace_global_locale(get_context_state(), name);
 }
 
 } // namespace fl::i18n

@@ -1,10 +1,9 @@
-#include "locale_runtime/context/global_locale_slot.hpp"
+#include "locale_runtime/context/context_state.hpp"
 #include "support/rows.hpp"
 #include "support/threads.hpp"
 
 #include <fl/i18n/codecvt.hpp>
 #include <fl/i18n/cvt_exceptions.hpp>
-#include <fl/i18n/locale_context.hpp>
 #include <fl/i18n/locale_impl.hpp>
 #include <fl/i18n/string_conversion.hpp>
 
@@ -20,8 +19,7 @@ static void set_global_encoding(std::string const& encoding, std::string const& 
     auto locale = std::make_unique<QnLocaleImpl>(QnLocale::global());
     locale->setEncoding(encoding);
     locale->setTerminalEncoding(terminal);
-    lcmgmt::get_qnlocale_context()->publish_slot(
-        std::make_unique<lcmgmt::global_locale_slot>(std::move(locale)));
+    lcmgmt::get_context_state().publish_slot(std::make_unique<lcmgmt::global_locale_slot>(std::move(locale)));
 }
 
 TEST(StringConversion, UsesTheEncodingsOfTheProcessAndTheTerminal) {

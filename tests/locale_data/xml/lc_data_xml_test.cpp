@@ -1,11 +1,11 @@
 #include "locale_data/database/changes.hpp"
+#include "locale_runtime/context/context_state.hpp"
 #include "support/failure.hpp"
 #include "support/raise.hpp"
 #include "support/rows.hpp"
 #include "support/temp_tree.hpp"
 
 #include <fl/i18n/lc_data_xml.hpp>
-#include <fl/i18n/locale_context.hpp>
 
 #include <expat.h>
 #include <gtest/gtest.h>
@@ -51,7 +51,7 @@ struct LcDataXmlTest : ::testing::Test, testing::temp_tree {
     /// What went to the event log since the last call, an entry each line.
     std::string log() {
         std::string lines;
-        auto const all = get_qnlocale_context()->event_log();
+        auto const all = get_context_state().log.entries();
         for (; logged_ < all.size(); ++logged_)
             lines += all[logged_] + "\n";
         return lines;
@@ -59,7 +59,7 @@ struct LcDataXmlTest : ::testing::Test, testing::temp_tree {
 
     locale_database database_;
     std::string message_;
-    std::size_t logged_ = get_qnlocale_context()->event_log().size();
+    std::size_t logged_ = get_context_state().log.entries().size();
 };
 
 TEST_F(LcDataXmlTest, AppliesEachElement) {

@@ -1,7 +1,7 @@
 // One step as a caller may take it; what start-up makes of all steps is in the transcripts.
 #include "preferences_double.hpp"
 
-#include <fl/i18n/locale_context.hpp>
+#include <fl/i18n/locale_database.hpp>
 #include <fl/i18n/locale_discovery.hpp>
 #include <fl/i18n/locale_impl.hpp>
 

@@ -1,9 +1,9 @@
 // A fresh process for the tests of start-up: runs the commands that it gets as arguments, one after the
 // other, and prints what the process has come to.
+#include "locale_runtime/context/context_state.hpp"
 #include "locale_runtime/startup/preferences_double.hpp"
 
 #include <fl/i18n/java_vm_context.hpp>
-#include <fl/i18n/locale_context.hpp>
 #include <fl/i18n/locale_discovery.hpp>
 #include <fl/i18n/locale_status.hpp>
 #include <fl/i18n/startup.hpp>
@@ -180,7 +180,7 @@ static void steer_and_report(std::string const& command) {
     bool const done = steer(command.substr(0, equals), has_argument ? command.substr(equals + 1) : "");
     std::cout << command << (done ? ": " : " refused: ")
               << (get_l10n_resource_status() ? "enabled " : "disabled ")
-              << lcmgmt::get_qnlocale_context()->slot_count() << ' ' << describe(QnLocale::global());
+              << lcmgmt::get_context_state().slot_count() << ' ' << describe(QnLocale::global());
 }
 
 static std::size_t seen_of_log = 0;

@@ -1,10 +1,10 @@
 // Each test runs in a process of its own. Their worth is doubled under ThreadSanitizer and AddressSanitizer.
+#include "locale_runtime/context/context_state.hpp"
 #include "preferences_double.hpp"
 #include "support/temp_tree.hpp"
 #include "support/threads.hpp"
 
 #include <fl/i18n/encoding_name.hpp>
-#include <fl/i18n/locale_context.hpp>
 #include <fl/i18n/locale_status.hpp>
 #include <fl/i18n/message_catalog.hpp>
 #include <fl/i18n/startup.hpp>
@@ -110,7 +110,7 @@ TEST(StartupThreads, OneOfAllChangesOfMessagesHappens) {
     run_in_threads(9, [&](int number) {
         reader eyes;
         if (number == 8) { // holds the others up until all of them have seen that messages may be set
-            lcmgmt::get_qnlocale_context()->with_discovery([&](auto const&) {
+            lcmgmt::get_context_state().with_discovery([&](auto const&) {
                 held.count_down();
                 std::this_thread::sleep_for(std::chrono::milliseconds(100));
             });
