@@ -19,13 +19,16 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
+#include <string_view>
 
 namespace fl::i18n {
 
 namespace lcmgmt {
 class locale_database;
 class published_databases;
+struct locale_name_element;
 } // namespace lcmgmt
 
 /// The one implementation of `QnLocale`. Its setters are for an object under construction: once it is shared,
@@ -83,21 +86,33 @@ public:
     lc_opt_data_value getLcOptData(QnLcOptDataCtx::LcOptDataType type) const override;
 
 private:
-    struct category_record {
-        std::string short_name;
-        std::string modifier;
-    };
+    friend class QnLocale; // which makes locales of several names by `replace` and `copy`
 
+    // Name and modifier of a category, and the name taken apart. It never changes, so that the categories
+    // that agree share one, as do copies of the locale.
+    struct category_record;
+    using record_pointer = std::shared_ptr<category_record const>;
+
+    static record_pointer make_record(std::string const& name, std::string const& modifier);
+
+    void replace(LcCategory category, std::string const& name);
+    void copy(LcCategory category, QnLocale const& source);
     category_record const& at(LcCategory category) const;
-    void check_name(std::string const& name) const;
-    void store(std::string const& name, std::string const& modifier, std::size_t index);
+    void check_name(std::string_view name) const;
+    record_pointer make_resolved_record(std::string const& resolved, std::string_view given,
+                                        lcmgmt::locale_name_element&& element) const;
+    std::string store_resolved(std::string const& resolved, std::string const& name);
+    void store(record_pointer record, LcCategory category);
+    void store_all(record_pointer record);
+    record_pointer const& pointer_at(LcCategory category) const noexcept;
     std::string terminal_or_text_encoding() const;
 
     lcmgmt::locale_database const& database() const noexcept;
 
     lcmgmt::locale_database const* own_database_ = nullptr; // null if the one in force counts
     lcmgmt::published_databases const* databases_ = nullptr;
-    std::array<category_record, 6> categories_;
+    record_pointer common_;                    // of the categories without one of their own; may be null
+    std::array<record_pointer, 6> categories_; // null: the common one
     std::string encoding_;
     std::string terminal_encoding_;
 };

@@ -1,44 +1,8 @@
 #include "locale_runtime/context/context_state.hpp"
-#include "locale_runtime/context/locale_setting.hpp"
 
 #include <fl/i18n/locale_impl.hpp>
 
 namespace fl::i18n {
-
-namespace {
-
-std::shared_ptr<QnLocaleImpl> make_locale(std::string const& name) {
-    return std::make_shared<QnLocaleImpl>(name);
-}
-
-std::shared_ptr<QnLocaleImpl> make_locale(QnLocale const& locale) {
-    return std::make_shared<QnLocaleImpl>(locale);
-}
-
-/// The setting's encoding is only checked: a locale has one encoding, that of its own name.
-void replace_category(QnLocaleImpl& locale, QnLocale::LcCategory category, std::string const& name) {
-    auto const setting = lcmgmt::resolve_locale_setting(lcmgmt::get_context_state().database(), name);
-    locale.setLcName(setting.short_name, setting.modifier, category);
-}
-
-template <class Base>
-std::shared_ptr<QnLocale const> make_mixed(Base const& base, QnLocale::LcCategory category,
-                                           std::string const& other) {
-    auto locale = make_locale(base);
-    replace_category(*locale, category, other);
-    return locale;
-}
-
-template <class Base>
-std::shared_ptr<QnLocale const> make_mixed(Base const& base,
-                                           std::vector<QnLocale::CategoryContext> const& categories) {
-    auto locale = make_locale(base);
-    for (auto const& [category, name] : categories)
-        replace_category(*locale, category, name);
-    return locale;
-}
-
-} // namespace
 
 QnLocale::~QnLocale() = default;
 
@@ -67,44 +31,54 @@ QnLcOptDataCtx::LcOptDataType QnLcOptDataCtx::getOptDataType(std::string const& 
 }
 
 std::shared_ptr<QnLocale const> QnLocale::createLocale(std::string const& name) {
-    return make_locale(name);
+    return std::make_shared<QnLocaleImpl>(name);
 }
 
 std::shared_ptr<QnLocale const> QnLocale::createLocale(QnLocale const& locale) {
-    return make_locale(locale);
+    return std::make_shared<QnLocaleImpl>(locale);
 }
 
 std::shared_ptr<QnLocale const> QnLocale::createLocale(std::string const& name, LcCategory category,
                                                        std::string const& other) {
-    return make_mixed(name, category, other);
+    auto made = std::make_shared<QnLocaleImpl>(name);
+    made->replace(category, other);
+    return made;
 }
 
 std::shared_ptr<QnLocale const> QnLocale::createLocale(QnLocale const& locale, LcCategory category,
                                                        std::string const& other) {
-    return make_mixed(locale, category, other);
+    auto made = std::make_shared<QnLocaleImpl>(locale);
+    made->replace(category, other);
+    return made;
 }
 
 std::shared_ptr<QnLocale const> QnLocale::createLocale(QnLocale const& locale, LcCategory category,
                                                        QnLocale const& source) {
-    auto copy = make_locale(locale);
-    copy->setLcName(source.shortName(category), source.modifier(category), category);
-    return copy;
+    auto made = std::make_shared<QnLocaleImpl>(locale);
+    made->copy(category, source);
+    return made;
 }
 
 std::shared_ptr<QnLocale const> QnLocale::createLocale(std::string const& name,
                                                        std::vector<CategoryContext> const& categories) {
-    return make_mixed(name, categories);
+    auto made = std::make_shared<QnLocaleImpl>(name);
+    for (auto const& [category, other] : categories)
+        made->replace(category, other);
+    return made;
 }
 
 std::shared_ptr<QnLocale const> QnLocale::createLocale(QnLocale const& locale,
                                                        std::vector<CategoryContext> const& categories) {
-    return make_mixed(locale, categories);
+    auto made = std::make_shared<QnLocaleImpl>(locale);
+    for (auto const& [category, other] : categories)
+        made->replace(category, other);
+    return made;
 }
 
 std::shared_ptr<QnLocale const> QnLocale::createLocaleWithCForNumeric(std::string const& name) {
-    auto locale = make_locale(name);
-    locale->setLcName("en_US_POSIX", "", numeric);
-    return locale;
+    auto made = std::make_shared<QnLocaleImpl>(name);
+    made->setLcName("en_US_POSIX", "", numeric);
+    return made;
 }
 
 } // namespace fl::i18n

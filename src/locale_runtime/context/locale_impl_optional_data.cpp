@@ -29,7 +29,7 @@ bool ask_icu(std::string const& locale, Ask const& ask) {
 std::int32_t QnLocaleImpl::getPaperSizeType() const {
     int32_t height = 0; // millimetres
     int32_t width = 0;
-    bool const known = ask_icu(at(time).short_name, [&](char const* name, UErrorCode& status) {
+    bool const known = ask_icu(shortName(time), [&](char const* name, UErrorCode& status) {
         ulocdata_getPaperSize(name, &height, &width, &status);
     });
     return known && height == 297 && width == 210 ? QnLcOptDataCtx::a4_paper : QnLcOptDataCtx::other_paper;
@@ -37,7 +37,7 @@ std::int32_t QnLocaleImpl::getPaperSizeType() const {
 
 std::int32_t QnLocaleImpl::getUnitType() const {
     UMeasurementSystem system = UMS_US;
-    bool const known = ask_icu(at(time).short_name, [&](char const* name, UErrorCode& status) {
+    bool const known = ask_icu(shortName(time), [&](char const* name, UErrorCode& status) {
         system = ulocdata_getMeasurementSystem(name, &status);
     });
     if (known && system == UMS_SI)

@@ -22,10 +22,11 @@ resolved_locale_setting resolve_locale_setting(locale_database const& database, 
     setting.short_name = database.get_locale_name(name);
     if (setting.short_name.empty())
         support::raise(QnLcInvLcName(name));
-    auto const element = decompose_locale_name(name);
-    setting.modifier = element.modifiers();
-    setting.encoding = element.encoding.empty() ? database.get_default_encoding_name(setting.short_name)
-                                                : checked_encoding_name(database, element.encoding);
+    setting.element = decompose_locale_name(name);
+    setting.modifier = setting.element.modifiers();
+    std::string const& encoding = setting.element.encoding;
+    setting.encoding = encoding.empty() ? database.get_default_encoding_name(setting.short_name)
+                                        : checked_encoding_name(database, encoding);
     return setting;
 }
 

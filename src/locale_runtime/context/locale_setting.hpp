@@ -1,6 +1,8 @@
 /// A locale name given by a caller, taken apart and checked against the database.
 #pragma once
 
+#include <fl/i18n/locale_name.hpp>
+
 #include <string>
 
 namespace fl::i18n::lcmgmt {
@@ -8,9 +10,10 @@ namespace fl::i18n::lcmgmt {
 class locale_database;
 
 struct resolved_locale_setting {
-    std::string short_name; // canonical
-    std::string encoding;   // standard name in the database
-    std::string modifier;   // with its signs, "@euro"
+    std::string short_name;      // canonical
+    std::string encoding;        // standard name in the database
+    std::string modifier;        // with its signs, "@euro"
+    locale_name_element element; // the name as it was given, taken apart
 };
 
 /// Looks `name` up whole, so an alias of the database is known only without encoding and modifiers. Throws

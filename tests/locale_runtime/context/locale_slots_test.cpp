@@ -21,11 +21,8 @@ TEST(LocaleSlots, ListGrowsByAppendingAndKeepsWhatIsReplaced) {
         std::size_t size;
     };
     step const steps[] = {
-        {"en_US_POSIX", false, 1},
-        {"de_DE", true, 2}, // the first one is not replaced
-        {"fr_FR", true, 2},
-        {"ja_JP", false, 3},
-        {"it_IT", true, 3},
+        {"en_US_POSIX", false, 1}, {"de_DE", true, 2}, // the first one is not replaced
+        {"fr_FR", true, 2},        {"ja_JP", false, 3}, {"it_IT", true, 3},
     };
     locale_slots slots;
     EXPECT_FALSE(slots.current());

@@ -1,6 +1,5 @@
-#include "support/rows.hpp"
-
 #include <fl/i18n/locale.hpp>
+#include <fl/i18n/locale_name.hpp>
 
 #include <gtest/gtest.h>
 
@@ -8,16 +7,67 @@ using namespace fl::i18n;
 using categories = std::vector<QnLocale::CategoryContext>;
 
 TEST(Locale, NamesAreResolved) {
-    for (auto const& [name, ctype, messages, modifier, encoding] : fl::testing::rows<5>(
-             "de_DE de_DE de_DE ~ ISO-8859-1  iw he_IL he_IL ~ UTF-8  en_US_POSIX en_US_POSIX en_US ~ UTF-8  "
-             "sr_Latn-BA sr-Latn_BA sr-Latn_BA ~ windows-1250  de_DE.utf-16le de_DE de_DE ~ UTF-16LE  "
-             "de_DE.utf8@euro@phonebook de_DE de_DE @euro@phonebook UTF-8  "
-             "C.US-ASCII@x en_US_POSIX en_US ~ UTF-8")) {
+    struct row {
+        char const* name;
+        char const* ctype;
+        char const* messages;
+        char const* modifier;
+        char const* encoding;
+    };
+    row const rows[] = {
+        {"de_DE", "de_DE", "de_DE", "", "ISO-8859-1"},
+        {"iw", "he_IL", "he_IL", "", "UTF-8"},
+        {"en_US_POSIX", "en_US_POSIX", "en_US", "", "UTF-8"},
+        {"sr_Latn-BA", "sr-Latn_BA", "sr-Latn_BA", "", "windows-1250"},
+        {"de_DE.utf-16le", "de_DE", "de_DE", "", "UTF-16LE"},
+        {"de_DE.utf8@euro@phonebook", "de_DE", "de_DE", "@euro@phonebook", "UTF-8"},
+        {"C.US-ASCII@x", "en_US_POSIX", "en_US", "", "UTF-8"},
+    };
+    for (auto const& [name, ctype, messages, modifier, encoding] : rows) {
         auto const locale = QnLocale::createLocale(name);
-        EXPECT_EQ(locale->shortName(QnLocale::ctype), ctype);
+        EXPECT_EQ(locale->shortName(QnLocale::ctype), ctype) << name;
         EXPECT_EQ(locale->shortName(QnLocale::messages), messages) << name;
         EXPECT_EQ(locale->modifier(QnLocale::monetary), modifier) << name;
         EXPECT_EQ(locale->encoding(), encoding) << name;
+    }
+}
+
+/// Of another class, with names that no database has resolved.
+struct foreign_locale final : QnLocale {
+    explicit foreign_locale(std::string text) : name(std::move(text)) {}
+    bool operator==(QnLocale const&) const override { return false; }
+    bool operator!=(QnLocale const&) const override { return true; }
+    std::string shortName(LcCategory category) const override { return category == time ? name : "fr_CA"; }
+    std::string language(LcCategory, language_tag_option) const override { return ""; }
+    std::string territory(LcCategory) const override { return ""; }
+    std::string modifier(LcCategory) const override { return ""; }
+    std::string toLanguageTag(LcCategory) const override { return ""; }
+    std::string encoding() const override { return ""; }
+    std::string localeSpecificEncoding() const override { return ""; }
+    lc_opt_data_value getLcOptData(QnLcOptDataCtx::LcOptDataType) const override { return ""; }
+
+    std::string name;
+};
+
+TEST(Locale, PartsAreThoseOfTheNameHoweverItCame) {
+    for (std::string const name : {"de", "de_DE", "DE_de", "de-DE.UTF-8@euro", "C", "C.UTF-8", "iw",
+                                   "en_US_POSIX", "en-US-POSIX.UTF-8", "sr_latn-BA", "sr_Latn_BA", "es_419",
+                                   "zh-Hant-TW", "de_DE-x-ship", "de_AT_DE"}) {
+        auto const own = QnLocale::createLocale(name);
+        auto const mixed = QnLocale::createLocale("ja", QnLocale::time, own->shortName(QnLocale::ctype));
+        auto const taken = QnLocale::createLocale(*mixed, QnLocale::ctype, *own);
+        auto const foreign = QnLocale::createLocale(foreign_locale(name));
+        auto const foreign_part = QnLocale::createLocale(*own, QnLocale::time, foreign_locale(name));
+        for (auto const& locale : {own, mixed, taken, foreign, foreign_part, QnLocale::createLocale(*mixed)})
+            for (auto const category : {QnLocale::ctype, QnLocale::time, QnLocale::messages}) {
+                auto const parts = lcmgmt::decompose_locale_name(locale->shortName(category));
+                SCOPED_TRACE(name + " became " + locale->shortName(category));
+                EXPECT_EQ(locale->language(category, QnLocale::language_with_script),
+                          parts.language_name_with_script());
+                EXPECT_EQ(locale->language(category, QnLocale::language_without_script), parts.language);
+                EXPECT_EQ(locale->territory(category), parts.region);
+                EXPECT_EQ(locale->toLanguageTag(category), parts.language_tag());
+            }
     }
 }
 
@@ -36,19 +86,24 @@ static std::string refused(auto const& call) {
 TEST(Locale, EachFormRefusesBadNames) {
     auto const de = QnLocale::createLocale("de_DE");
     auto const zero = std::string("UTF-8") + '\0' + "x";
-    std::string const rows[][3] = {
-        // name, what is refused of it as the locale's own name and as a category's name
+    struct row {
+        std::string name;
+        std::string refused_as_own; // what is refused of it as the locale's own name
+        std::string refused_as_category;
+    };
+    row const rows[] = {
         {"xx_YY.UTF-8", "xx_YY", "xx_YY.UTF-8"}, {"C.UTF-8", "ok", "C.UTF-8"},
         {"ja_JP.SJIS", "SJIS", "SJIS"}, // ICU and the database know it by different names
         {"de_DE.no-such", "no-such", "no-such"}, {"de_DE." + zero, zero, zero},
     };
-    for (auto const& row : rows) {
-        std::string const &name = row[0], &own = row[1], &other = row[2];
-        categories const mixed{{QnLocale::time, "fr_FR"}, {QnLocale::time, name}};
-        EXPECT_EQ(refused([&] { QnLocale::createLocale(name); }), own);
-        EXPECT_EQ(refused([&] { QnLocale::createLocaleWithCForNumeric(name); }), own);
-        EXPECT_EQ(refused([&] { QnLocale::createLocale("fr", QnLocale::time, name); }), other);
-        EXPECT_EQ(refused([&] { QnLocale::createLocale(*de, mixed); }), other);
+    for (row const& row : rows) {
+        SCOPED_TRACE(row.name);
+        categories const mixed{{QnLocale::time, "fr_FR"}, {QnLocale::time, row.name}};
+        EXPECT_EQ(refused([&] { QnLocale::createLocale(row.name); }), row.refused_as_own);
+        EXPECT_EQ(refused([&] { QnLocale::createLocaleWithCForNumeric(row.name); }), row.refused_as_own);
+        EXPECT_EQ(refused([&] { QnLocale::createLocale("fr", QnLocale::time, row.name); }),
+                  row.refused_as_category);
+        EXPECT_EQ(refused([&] { QnLocale::createLocale(*de, mixed); }), row.refused_as_category);
     }
     EXPECT_THROW(QnLocale::createLocale(""), QnLcInvLcArgument);
     EXPECT_THROW(QnLocale::createLocale(*de, QnLocale::time, ""), QnLcInvLcArgument);

@@ -12,8 +12,9 @@ TEST(NameTables, AnswerWhateverTheCaseOfAName) {
         char const* optional_data;
     };
     row const rows[] = {
-        {0, "ctype", "jvmencoding"},         {1, "COLLATE", "TermEncoding"},    {2, "time", "terminputencoding"},
-        {3, "Numeric", "termOUTPUTencoding"}, {4, "monetary", "papersize"}, {5, "messages", "unittype"},
+        {0, "ctype", "jvmencoding"},      {1, "COLLATE", "TermEncoding"},
+        {2, "time", "terminputencoding"}, {3, "Numeric", "termOUTPUTencoding"},
+        {4, "monetary", "papersize"},     {5, "messages", "unittype"},
     };
     name_tables names;
     EXPECT_THROW(names.category("ctype"), QnLcDataNotFound) << "not filled yet";
