@@ -9,6 +9,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <utility>
 
 namespace fl::i18n::lcmgmt {
 
@@ -19,11 +20,20 @@ public:
     global_locale_slot* current() const noexcept { return slots_.in_force(); }
 
     /// Adds the slot to the list and makes it the current one.
-    void append(std::unique_ptr<global_locale_slot> slot);
+    void append(std::unique_ptr<global_locale_slot> slot) {
+        slots_.keep(std::move(slot));
+        slots_.put_last_in_force();
+        ++size_;
+    }
 
     /// Likewise, but in the place of the last one. The classic locale is not replaced: a list that holds no
     /// other grows.
-    void replace_last(std::unique_ptr<global_locale_slot> slot);
+    void replace_last(std::unique_ptr<global_locale_slot> slot) {
+        bool const only_classic = size_ < 2;
+        append(std::move(slot));
+        if (!only_classic)
+            --size_;
+    }
 
     /// How many are in the list.
     std::size_t size() const noexcept { return size_; }

@@ -13,6 +13,7 @@ namespace {
 
 using paths = filesystem::detail::native_path_traits<char, char>;
 
+constexpr char const* title = "QnLocaleCtx::initLocaleMgmt";
 constexpr char const* path_title = "get_lcdata_path";
 
 std::string install_directory() {
@@ -69,8 +70,7 @@ std::unique_ptr<locale_database> make_database() {
     return database;
 }
 
-} // namespace
-
+/// Empty only where the library lies in no install tree. Which way the file was found goes to the log.
 std::string find_database_file(locale_context const& found, event_log& log) {
     std::string const directory = database_directory(found, log);
     if (directory.empty())
@@ -80,11 +80,11 @@ std::string find_database_file(locale_context const& found, event_log& log) {
 
 // Readers have the database in force already, so the file is applied to another one. What was applied before
 // a fault in the file counts, whatever the fault.
-void load_database_file(context_state& state, std::string const& path) {
+void load_database_file(context_state& state, std::string const& path) FL_REQUIRES(state.mutex) {
     state.databases.keep(make_database());
     try {
         parseLcData(*state.databases.last(), filesystem::native_path(path));
-        state.log.add("QnLocaleCtx::initLocaleMgmt", "XML locale database was loaded.");
+        state.log.add(title, "XML locale database was loaded.");
     } catch (LcRscExceptionBase const& failure) {
         if (char const* const text = describe_failure(failure.code())) {
             state.log.add("QnLocaleCtx::initLocaleMgmt::parseLcData", text);
@@ -95,6 +95,18 @@ void load_database_file(context_state& state, std::string const& path) {
         throw;
     }
     state.databases.put_last_in_force();
+}
+
+} // namespace
+
+void load_database(context_state& state) {
+    std::string const file = find_database_file(state.discovery, state.log);
+    if (file.empty()) {
+        state.log.add(title, "No XML locale database was loaded.");
+        return;
+    }
+    state.set_database_path(file);
+    load_database_file(state, file);
 }
 
 } // namespace fl::i18n::lcmgmt
