@@ -32,6 +32,6 @@ struct javavm_init_context {
 /// `get_l10n_resource_status()` is false; the format pair then too, and where it differs from `language` and
 /// `region`. Thread-safe; the several questions it asks are not one step, so call it while nobody changes the
 /// global locale.
-FL_I18N_EXPORT javavm_init_context get_javavm_init_context();
+[[nodiscard]] FL_I18N_EXPORT javavm_init_context get_javavm_init_context();
 
 } // namespace fl::i18n

@@ -62,7 +62,7 @@ public:
 
     /// The type with that name (the quoted names above); ASCII case is ignored. Throws `QnLcDataNotFound`
     /// for another name. Thread-safe.
-    static LcOptDataType getOptDataType(std::string const& name);
+    [[nodiscard]] static LcOptDataType getOptDataType(std::string const& name);
 };
 
 /// An optional datum; which alternative it holds depends on the type that was asked for alone.
@@ -102,12 +102,12 @@ public:
     /// @{
 
     /// "en_US_POSIX" in all categories, "en_US" for messages; encoding "UTF-8". Never changes.
-    static QnLocale const& classic();
+    [[nodiscard]] static QnLocale const& classic();
     /// The current locale: each call gives the object that is current at that moment, and keeping the
     /// reference means keeping that locale. The classic locale until start-up ends.
-    static QnLocale const& global();
+    [[nodiscard]] static QnLocale const& global();
     /// The locale found on the system. The classic locale until start-up ends.
-    static QnLocale const& system();
+    [[nodiscard]] static QnLocale const& system();
     /// @}
 
     /// Making locales. In each form:
@@ -124,74 +124,75 @@ public:
     /// US-ASCII, GB18030, the UTF-16 and UTF-32 forms and a few more. "ja_JP.SJIS" is refused.
     ///
     /// Names are checked in two ways. The locale's own `name` is first cut down to its short name; a name
-    /// given for a category (`other`, and the names of a vector) is looked up whole. So "C.UTF-8" makes a
-    /// locale, but throws `QnLcInvLcName` as a category's name, as "C" is an alias and not a language. As
-    /// such a name can't be taken apart, what follows "C" doesn't count where it is accepted.
+    /// given for a category (`other`, and the names of a vector) is looked up whole. The difference shows
+    /// with aliases that are no languages, such as "C". As the locale's own name "C.UTF-8" is accepted, since
+    /// "C" is known; the encoding part doesn't count, since the whole can't be taken apart. As a category's
+    /// name "C.UTF-8" throws `QnLcInvLcName`, since no alias has that name.
     ///
     /// Thread-safe.
     /// @{
 
     /// A locale with one name for all categories. Without an encoding part the encoding is the database's
     /// default for the locale, except "UTF-8" for "en_US_POSIX".
-    static std::shared_ptr<QnLocale const> createLocale(std::string const& name);
+    [[nodiscard]] static std::shared_ptr<QnLocale const> createLocale(std::string const& name);
     /// A copy.
-    static std::shared_ptr<QnLocale const> createLocale(QnLocale const& locale);
+    [[nodiscard]] static std::shared_ptr<QnLocale const> createLocale(QnLocale const& locale);
     /// The locale `name`, with `category` replaced. An encoding part of `other` is checked and then dropped:
     /// the encoding is that of `name`. So it is in the following forms.
-    static std::shared_ptr<QnLocale const> createLocale(std::string const& name, LcCategory category,
-                                                        std::string const& other);
+    [[nodiscard]] static std::shared_ptr<QnLocale const>
+    createLocale(std::string const& name, LcCategory category, std::string const& other);
     /// A copy with `category` replaced.
-    static std::shared_ptr<QnLocale const> createLocale(QnLocale const& locale, LcCategory category,
-                                                        std::string const& other);
+    [[nodiscard]] static std::shared_ptr<QnLocale const>
+    createLocale(QnLocale const& locale, LcCategory category, std::string const& other);
     /// A copy with name and modifier of `category` taken from `source`.
-    static std::shared_ptr<QnLocale const> createLocale(QnLocale const& locale, LcCategory category,
-                                                        QnLocale const& source);
+    [[nodiscard]] static std::shared_ptr<QnLocale const>
+    createLocale(QnLocale const& locale, LcCategory category, QnLocale const& source);
     /// The locale `name` with several categories replaced, in the given order: the last one for a category
     /// counts.
-    static std::shared_ptr<QnLocale const> createLocale(std::string const& name,
-                                                        std::vector<CategoryContext> const& categories);
+    [[nodiscard]] static std::shared_ptr<QnLocale const>
+    createLocale(std::string const& name, std::vector<CategoryContext> const& categories);
     /// A copy with several categories replaced, as above.
-    static std::shared_ptr<QnLocale const> createLocale(QnLocale const& locale,
-                                                        std::vector<CategoryContext> const& categories);
+    [[nodiscard]] static std::shared_ptr<QnLocale const>
+    createLocale(QnLocale const& locale, std::vector<CategoryContext> const& categories);
     /// The locale `name` with "en_US_POSIX" for numbers.
-    static std::shared_ptr<QnLocale const> createLocaleWithCForNumeric(std::string const& name);
+    [[nodiscard]] static std::shared_ptr<QnLocale const> createLocaleWithCForNumeric(std::string const& name);
     /// @}
 
     /// The category with that name; ASCII case is ignored. Throws `QnLcDataNotFound`. Thread-safe.
-    static LcCategory getLcCategory(std::string const& name);
+    [[nodiscard]] static LcCategory getLcCategory(std::string const& name);
     /// The name of the category. Throws `QnLcDataNotFound` for a value outside 0 to 5. Thread-safe.
-    static std::string getLcCategoryName(LcCategory category);
+    [[nodiscard]] static std::string getLcCategoryName(LcCategory category);
 
     virtual ~QnLocale();
 
     /// True when name and modifier of each category and the encoding are the same bytes. The terminal
     /// encoding doesn't count.
-    virtual bool operator==(QnLocale const& other) const = 0;
-    virtual bool operator!=(QnLocale const& other) const = 0;
+    [[nodiscard]] virtual bool operator==(QnLocale const& other) const = 0;
+    [[nodiscard]] virtual bool operator!=(QnLocale const& other) const = 0;
 
     /// The operations with a category throw `QnLcDataNotFound` for a value outside 0 to 5.
     /// @{
 
     /// The locale name: language, "-" and script if there is one, "_" and region. Where a category was taken
     /// from another locale object it is that object's text, whatever its form.
-    virtual std::string shortName(LcCategory category) const = 0;
+    [[nodiscard]] virtual std::string shortName(LcCategory category) const = 0;
     /// The language of the name: "sr-Latn" or, without the script, "sr".
-    virtual std::string language(LcCategory category, language_tag_option option) const = 0;
+    [[nodiscard]] virtual std::string language(LcCategory category, language_tag_option option) const = 0;
     /// The region of the name ("AT"), or empty.
-    virtual std::string territory(LcCategory category) const = 0;
+    [[nodiscard]] virtual std::string territory(LcCategory category) const = 0;
     /// The modifiers of the category, each with its sign ("@euro"), or empty.
-    virtual std::string modifier(LcCategory category) const = 0;
+    [[nodiscard]] virtual std::string modifier(LcCategory category) const = 0;
     /// The name as a language tag: "sr-Latn-BA".
-    virtual std::string toLanguageTag(LcCategory category) const = 0;
+    [[nodiscard]] virtual std::string toLanguageTag(LcCategory category) const = 0;
     /// @}
 
     /// The text encoding, by its standard name in the locale database.
-    virtual std::string encoding() const = 0;
+    [[nodiscard]] virtual std::string encoding() const = 0;
     /// The database's default encoding for the locale of category ctype, whatever `encoding()` is; empty if
     /// there is no such locale.
-    virtual std::string localeSpecificEncoding() const = 0;
+    [[nodiscard]] virtual std::string localeSpecificEncoding() const = 0;
     /// An optional datum; `LcOptDataType` tells the alternative. Throws `QnLcInvLcArgument` for another type.
-    virtual lc_opt_data_value getLcOptData(QnLcOptDataCtx::LcOptDataType type) const = 0;
+    [[nodiscard]] virtual lc_opt_data_value getLcOptData(QnLcOptDataCtx::LcOptDataType type) const = 0;
 
 protected:
     QnLocale() = default;

@@ -111,9 +111,10 @@ struct original_locale_setting {
 
 /// All findings by the names of the members, "NativeLocaleUser" to "XpgEncoding", also the empty ones; then
 /// "ErrorEvent0", "ErrorEvent1" and so on.
-FL_I18N_EXPORT std::map<std::string, std::string> get_locale_setting_from_system(locale_context const& found);
+[[nodiscard]] FL_I18N_EXPORT std::map<std::string, std::string>
+get_locale_setting_from_system(locale_context const& found);
 
-FL_I18N_EXPORT original_locale_setting
+[[nodiscard]] FL_I18N_EXPORT original_locale_setting
 extract_system_setting_from_locale_context(locale_context const& found);
 
 /// As `locale_initialization_context::set_xpg_locale`, but leaves the C library's locale alone. A record that
@@ -129,10 +130,10 @@ FL_I18N_EXPORT void redefine_xpg_locale_env(locale_context const& found);
 /// messages, time, numeric, monetary. Gives the `std::locale::category` masks of those that failed, in this
 /// order; the numbers differ between standard libraries. A standard library may refuse all six for the sake
 /// of one variable (libstdc++ does). Changes nothing.
-FL_I18N_EXPORT std::vector<std::int32_t> check_std_locale_valid();
+[[nodiscard]] FL_I18N_EXPORT std::vector<std::int32_t> check_std_locale_valid();
 
 /// True if `check_std_locale_valid` finds nothing. Under the context's mutex.
-FL_I18N_EXPORT bool is_std_locale_valid();
+[[nodiscard]] FL_I18N_EXPORT bool is_std_locale_valid();
 
 /// Where `check_std_locale_valid` finds something, sets the eight variables to what start-up decided. Before
 /// start-up that is nothing: they are unset. Under the context's mutex.
@@ -140,7 +141,7 @@ FL_I18N_EXPORT void fix_invalid_std_locale();
 
 /// `extract_system_setting_from_locale_context` of the process; empty before start-up. Under the context's
 /// mutex.
-FL_I18N_EXPORT original_locale_setting get_original_user_locale_setting();
+[[nodiscard]] FL_I18N_EXPORT original_locale_setting get_original_user_locale_setting();
 
 /// @}
 

@@ -45,9 +45,10 @@ FL_I18N_EXPORT void make_locale_fallback_list(std::vector<ustring>& list, QnLoca
 /// @}
 
 /// The list for the locale's messages that ends with the language of `QnLocale::classic()`, "en".
-FL_I18N_EXPORT std::vector<ustring> get_fallback_locales(QnLocale const& locale);
+[[nodiscard]] FL_I18N_EXPORT std::vector<ustring> get_fallback_locales(QnLocale const& locale);
 
 /// The list for the locale's messages that ends with "", which stands for resources without a locale.
-FL_I18N_EXPORT std::vector<ustring> get_fallback_locales_with_empty_default(QnLocale const& locale);
+[[nodiscard]] FL_I18N_EXPORT std::vector<ustring>
+get_fallback_locales_with_empty_default(QnLocale const& locale);
 
 } // namespace fl::i18n

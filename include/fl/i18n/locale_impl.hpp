@@ -66,24 +66,24 @@ public:
     /// `ulocdata_getMeasurementSystem`); those of "en_US_POSIX" if ICU fails. The values are those of
     /// `QnLcOptDataCtx::PaperSize` and `QnLcOptDataCtx::MeasurementSystem`.
     /// @{
-    std::int32_t getPaperSizeType() const;
-    std::int32_t getUnitType() const;
+    [[nodiscard]] std::int32_t getPaperSizeType() const;
+    [[nodiscard]] std::int32_t getUnitType() const;
     /// @}
 
-    bool operator==(QnLocale const& other) const override;
+    [[nodiscard]] bool operator==(QnLocale const& other) const override;
     /// The same; C++20 would find two equally good ways to compare two objects of this class otherwise.
-    bool operator==(QnLocaleImpl const& other) const {
+    [[nodiscard]] bool operator==(QnLocaleImpl const& other) const {
         return operator==(static_cast<QnLocale const&>(other));
     }
-    bool operator!=(QnLocale const& other) const override;
-    std::string shortName(LcCategory category) const override;
-    std::string language(LcCategory category, language_tag_option option) const override;
-    std::string territory(LcCategory category) const override;
-    std::string modifier(LcCategory category) const override;
-    std::string toLanguageTag(LcCategory category) const override;
-    std::string encoding() const override;
-    std::string localeSpecificEncoding() const override;
-    lc_opt_data_value getLcOptData(QnLcOptDataCtx::LcOptDataType type) const override;
+    [[nodiscard]] bool operator!=(QnLocale const& other) const override;
+    [[nodiscard]] std::string shortName(LcCategory category) const override;
+    [[nodiscard]] std::string language(LcCategory category, language_tag_option option) const override;
+    [[nodiscard]] std::string territory(LcCategory category) const override;
+    [[nodiscard]] std::string modifier(LcCategory category) const override;
+    [[nodiscard]] std::string toLanguageTag(LcCategory category) const override;
+    [[nodiscard]] std::string encoding() const override;
+    [[nodiscard]] std::string localeSpecificEncoding() const override;
+    [[nodiscard]] lc_opt_data_value getLcOptData(QnLcOptDataCtx::LcOptDataType type) const override;
 
 private:
     friend class QnLocale; // which makes locales of several names by `replace` and `copy`

@@ -32,27 +32,27 @@ public:
     /// 0 initialised, 2 not initialised, 3 initialised, but the user's locale was of no use. While start-up
     /// is under way it may also be 1: the locale database could not be loaded whole. That code doesn't
     /// outlast start-up; the warning does.
-    static std::int32_t getLcStatus();
+    [[nodiscard]] static std::int32_t getLcStatus();
 
     /// An English sentence for the status code.
-    static std::string getInitStatusMsg();
+    [[nodiscard]] static std::string getInitStatusMsg();
 
     /// What went wrong: "Invalid locale name." with status 3, otherwise why the locale database could not be
     /// loaded ("Failed to open file /opt/x/bin/lcdata.xml."). Empty if nothing did.
-    static std::string getInitWarningMsg();
+    [[nodiscard]] static std::string getInitWarningMsg();
 
     /// What was found on the system: `lcmgmt::get_locale_setting_from_system` for this process. The values
     /// are empty before start-up.
-    static std::map<std::string, std::string> getLocaleInformation();
+    [[nodiscard]] static std::map<std::string, std::string> getLocaleInformation();
 
     /// What has happened in locale management since the process began, one entry for each event, in the order
     /// of the events: a title that names the place, " - ", and a text. The log only ever grows, by an entry
     /// or two for each change of the locale.
-    static std::vector<std::string> getEventLog();
+    [[nodiscard]] static std::vector<std::string> getEventLog();
 
     /// Empty, or one entry: "xml_locale_database_path" with the file that start-up tried to load, in the
     /// bytes of the file system, whether it exists or not.
-    static std::map<std::string, std::string> getDataPathNames();
+    [[nodiscard]] static std::map<std::string, std::string> getDataPathNames();
 };
 
 } // namespace fl::i18n

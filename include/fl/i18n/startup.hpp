@@ -56,13 +56,13 @@ FL_I18N_EXPORT void initialize();
 /// Makes messages English, "en_US", from now on: in the global locale, which otherwise becomes the system's
 /// again, and in the variable LC_MESSAGES ("C"). Without effect where `get_l10n_resource_status()` is false.
 ///
-/// Call it after start-up: start-up makes the user's locale the global one, but this stays used up. Before
-/// start-up the environment is left alone, too.
+/// Call it after start-up. A call before start-up is lost: it leaves the environment alone, start-up makes
+/// the user's locale the global one all the same, and a second call is without effect.
 FL_I18N_EXPORT void disable_l10n_resource();
 
 /// True until one of these has happened: start-up with translations switched off, `disable_l10n_resource`,
 /// a success of `set_lc_messages`, or a change to English by `change_global_locale`.
-FL_I18N_EXPORT bool get_l10n_resource_status();
+[[nodiscard]] FL_I18N_EXPORT bool get_l10n_resource_status();
 
 /// Makes the system's locale the global one, and locks it as `lock_global_locale_setting` does. Only one
 /// thing of the argument counts: if its messages are "en_US" while those of the global locale are not
@@ -77,7 +77,8 @@ FL_I18N_EXPORT void lock_global_locale_setting();
 /// even if it has one. Works once: false, and no change, if `get_l10n_resource_status()` is false already, if
 /// `name` is the current name, or if its short name is unknown. The environment isn't touched.
 ///
-/// Call it after start-up: start-up makes the user's locale the global one, but this stays used up.
+/// Call it after start-up. A success before start-up is lost: start-up makes the user's locale the global one
+/// all the same, and a second call fails.
 FL_I18N_EXPORT bool set_lc_messages(std::string const& name);
 
 namespace experimental {

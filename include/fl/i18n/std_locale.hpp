@@ -216,7 +216,7 @@ public:
     global_std_locale_ctx();
 
     /// As good as the object that it is in.
-    std::locale const& locale() const noexcept { return locale_; }
+    [[nodiscard]] std::locale const& locale() const noexcept { return locale_; }
 
 private:
     std::locale locale_;
@@ -227,7 +227,7 @@ private:
 /// changes. The reference is good until the thread ends; a copy of the `std::locale` lasts as long as it is
 /// needed. Not to be called from the destructor of a static object, nor of another thread-local one.
 /// Thread-safe: no two threads share an object.
-FL_I18N_EXPORT std::locale const& get_global_std_locale();
+[[nodiscard]] FL_I18N_EXPORT std::locale const& get_global_std_locale();
 
 } // namespace facet
 
