@@ -156,7 +156,7 @@ QnLocaleImpl::record_pointer QnLocaleImpl::make_resolved_record(std::string cons
     return record;
 }
 
-// Stores what the database made of `name`, and returns the encoding part of `name`.
+/// Stores what the database made of `name`, and returns the encoding part of `name`.
 std::string QnLocaleImpl::store_resolved(std::string const& resolved, std::string const& name) {
     std::string_view const short_name = lcmgmt::extract_short_name(name);
     bool const is_bare = short_name.size() == name.size();

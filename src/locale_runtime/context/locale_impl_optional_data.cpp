@@ -1,4 +1,4 @@
-// Paper, units and encodings for other programs: the optional data of a locale.
+// The optional data of a locale: paper and units, and the encodings of terminals and of other programs.
 #include "support/raise.hpp"
 
 #include <fl/i18n/locale_context.hpp>

@@ -1,3 +1,5 @@
+// The second step of discovery: from what the system says to a locale, and to the names by which the C
+// library knows it.
 #include "locale_runtime/startup/locale_discovery_steps.hpp"
 #include "platform/platform.hpp"
 
@@ -44,6 +46,8 @@ std::string with_extra_suffix(std::string const& name) {
 std::string candidate(locale_database const& database, std::string const& locale) {
     if (locale.empty())
         return std::string();
+    // The database has an XPG name where the system's name is another than the locale's, so it comes first.
+    // Then the bare name; with a suffix it only counts where the bare one is missing.
     char const* const xpg_name = database.fetch_locale_xpg_name_map(locale);
     return first_accepted({xpg_name ? xpg_name : "", locale, with_extra_suffix(locale)});
 }
@@ -60,6 +64,7 @@ std::string tested_xpg_name(locale_database const& database, std::string const& 
     std::string name = candidate(database, locale);
     if (name.empty())
         return name;
+    // Messages follow the encoding of the category ctype, so the name is better without one.
     std::string const stem = stem_of(name);
     return first_accepted({stem, with_extra_suffix(stem)});
 }
@@ -71,6 +76,8 @@ std::string tested_xpg_name(locale_database const& database, std::string const& 
     std::string const stem = stem_of(name);
     if (name.empty() || name == stem + "." + encoding)
         return name;
+    // Another encoding is no substitute: what the locale has in UTF-8 is, or its bare name, to which the
+    // decision then adds a locale in UTF-8 for the characters.
     return first_accepted({stem + ".UTF-8", stem});
 }
 
@@ -83,6 +90,8 @@ struct named_locale {
 /// of any name in the database, so with one only the second way is open.
 named_locale resolve_preference(locale_database const& database, std::string const& preference) {
     if (preference.find('@') == std::string::npos) {
+        // A region's name comes first: the general look-up answers for nearly every pair of language and
+        // region, and would hide it.
         std::string name = database.get_region_locale_name(preference);
         if (name.empty())
             name = database.get_locale_name(preference);
@@ -97,6 +106,7 @@ named_locale resolve_preference(locale_database const& database, std::string con
 /// Empty for an unknown language.
 std::string resolve_language(locale_database const& database, std::string const& language) {
     locale_name_element const element = decompose_locale_name(language);
+    // The whole tag may be known where its region or variant decides; a language is better than nothing.
     std::string name = database.get_locale_name(element.language_tag());
     return name.empty() ? database.get_locale_name(element.language_name_with_script()) : name;
 }
@@ -144,6 +154,8 @@ void decide_xpg_names(locale_context& found, std::string const& all, std::string
     found.xpg_all = all;
     if (messages != all)
         found.xpg_category[place_messages] = messages;
+    // A name that doesn't say UTF-8 may stand for any encoding, so characters get a locale that surely has
+    // it.
     if (all.find(utf8) == std::string::npos)
         found.xpg_category[place_ctype] = platform::current().utf8_ctype_locale();
     distribute(found);

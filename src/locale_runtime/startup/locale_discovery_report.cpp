@@ -1,3 +1,4 @@
+// What discovery has found, for those who ask afterwards.
 #include "locale_runtime/startup/locale_discovery_steps.hpp"
 
 #include <fl/i18n/locale_discovery.hpp>
