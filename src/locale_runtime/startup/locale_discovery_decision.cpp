@@ -163,6 +163,7 @@ void decide_xpg_names(locale_context& found, std::string const& all, std::string
 
 } // namespace
 
+// Locale and language are decided apart: messages stay in the user's language where the locale is of no use.
 bool decide_locale(locale_context& found, locale_database const& database) {
     named_locale const base = resolve_preference(database, found.NativeLocaleUser);
     std::string const messages = resolve_language(database, found.NativeLanguageUser);

@@ -54,10 +54,20 @@ TEST(LocaleImpl, EveryCategoryAndModifierCountsInComparison) {
 }
 
 TEST(LocaleImpl, PaperAndUnitsFollowTheTimeCategory) {
-    std::tuple<char const*, int, int> const rows[] = {
-        {"de_DE", 1, 1}, {"en_US", 0, 0}, {"en_GB", 1, 2}, {"en_US_POSIX", 0, 0}};
-    for (auto const& [time, paper, units] : rows) {
-        auto const locale = QnLocale::createLocale(paper ? "en_US" : "de_DE", QnLocale::time, time);
+    struct row {
+        char const* time;
+        char const* others;
+        QnLcOptDataCtx::PaperSize paper;
+        QnLcOptDataCtx::MeasurementSystem units;
+    };
+    row const rows[] = {
+        {"de_DE", "en_US", QnLcOptDataCtx::a4_paper, QnLcOptDataCtx::metric_units},
+        {"en_US", "de_DE", QnLcOptDataCtx::other_paper, QnLcOptDataCtx::us_units},
+        {"en_GB", "en_US", QnLcOptDataCtx::a4_paper, QnLcOptDataCtx::uk_units},
+        {"en_US_POSIX", "de_DE", QnLcOptDataCtx::other_paper, QnLcOptDataCtx::us_units},
+    };
+    for (auto const& [time, others, paper, units] : rows) {
+        auto const locale = QnLocale::createLocale(others, QnLocale::time, time);
         EXPECT_EQ(std::get<1>(locale->getLcOptData(QnLcOptDataCtx::paper_size)), paper) << time;
         EXPECT_EQ(std::get<2>(locale->getLcOptData(QnLcOptDataCtx::measurement_system)), units) << time;
     }

@@ -1,5 +1,4 @@
 #include "locale_runtime/context/published.hpp"
-#include "support/threads.hpp"
 
 #include <gtest/gtest.h>
 
@@ -19,23 +18,6 @@ TEST(Published, KeepsEachObjectAndShowsTheOneInForce) {
     numbers.put_last_in_force();
     EXPECT_EQ(*numbers.in_force(), 2);
     EXPECT_EQ(first, 1) << "a reference outlives its turn";
-}
-
-TEST(Published, ReadersSeeFinishedObjects) {
-    struct pair {
-        int number = 0, same = 0;
-    };
-    published<pair> pairs;
-    testing::run_in_threads(4, [&](int number) {
-        for (int round = 1; round <= 1000; ++round)
-            if (number == 0) {
-                pairs.keep(std::make_unique<pair>());
-                pairs.last()->number = pairs.last()->same = round;
-                pairs.put_last_in_force();
-            } else if (pair const* const seen = pairs.in_force()) {
-                EXPECT_TRUE(seen->number > 0 && seen->number == seen->same);
-            }
-    });
 }
 
 } // namespace
