@@ -50,6 +50,7 @@
 #include <fl/i18n/lc_data_xml.hpp>
 #include <fl/i18n/lc_status.hpp>
 #include <fl/i18n/locale.hpp>
+#include <fl/i18n/locale_case.hpp>
 #include <fl/i18n/locale_context.hpp>
 #include <fl/i18n/locale_database.hpp>
 #include <fl/i18n/locale_discovery.hpp>

@@ -21,7 +21,8 @@
 ///   of marks on one letter, which no language has, take the square of their number.
 /// - Normalisation needs a buffer that does not overlap the source. Case mapping works in place, too.
 ///
-/// Thread-safe: any of these may be called from any thread. Nothing depends on a current locale.
+/// Thread-safe: any of these may be called from any thread. Nothing depends on a current locale;
+/// case by the rules of a given one is in <fl/i18n/locale_case.hpp>.
 #pragma once
 
 #include <fl/i18n/ctype_exceptions.hpp>
@@ -30,23 +31,8 @@
 
 namespace fl::i18n {
 
-class QnLocale;
-
 struct to_upper {}; ///< `u_strToUpper` by ICU's root rules: full mappings, U+00DF gives "SS"
 struct to_lower {}; ///< `u_strToLower` by ICU's root rules
-
-/// `u_strToUpper` by the rules for the locale's name in category `ctype`: "tr_TR" maps i to U+0130. The
-/// locale must live as long as the tag.
-struct to_upper_locale {
-    explicit to_upper_locale(QnLocale const& rules) noexcept : locale(rules) {}
-    QnLocale const& locale;
-};
-
-/// `u_strToLower`, as above.
-struct to_lower_locale {
-    explicit to_lower_locale(QnLocale const& rules) noexcept : locale(rules) {}
-    QnLocale const& locale;
-};
 
 /// The normalisation forms of Unicode Standard Annex #15.
 /// @{
@@ -69,10 +55,6 @@ FL_I18N_EXPORT unsigned long transform(char16_t* dst, unsigned long dst_len, cha
                                        unsigned long src_len, to_upper const& tag);
 FL_I18N_EXPORT unsigned long transform(char16_t* dst, unsigned long dst_len, char16_t const* src,
                                        unsigned long src_len, to_lower const& tag);
-FL_I18N_EXPORT unsigned long transform(char16_t* dst, unsigned long dst_len, char16_t const* src,
-                                       unsigned long src_len, to_upper_locale const& tag);
-FL_I18N_EXPORT unsigned long transform(char16_t* dst, unsigned long dst_len, char16_t const* src,
-                                       unsigned long src_len, to_lower_locale const& tag);
 /// @}
 
 /// @name Normalisation

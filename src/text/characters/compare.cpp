@@ -1,6 +1,6 @@
 #include "support/ascii.hpp"
 #include "text/characters/normalization.hpp"
-#include "text/characters/transform_length.hpp"
+#include "text/characters/transform_by_icu.hpp"
 #include "text/characters/unit_run.hpp"
 
 #include <fl/i18n/compare.hpp>

@@ -1,10 +1,7 @@
 #include "text/characters/normalization.hpp"
 
-#include "text/characters/prefix_transform.hpp"
-#include "text/characters/transform_length.hpp"
+#include "text/characters/transform_by_icu.hpp"
 #include "text/characters/unit_run.hpp"
-
-#include <fl/i18n/transform.hpp>
 
 #include <unicode/unorm2.h>
 
@@ -90,26 +87,6 @@ std::u16string_view normalized(normal_form form, std::u16string_view text, text_
     return buffer.fill(likely_size(form, text.size()), [&](char16_t* dst, std::size_t capacity) {
         return normalize(form, dst, capacity, text.data(), text.size());
     });
-}
-
-unsigned long transform(char16_t* dst, unsigned long dst_len, char16_t const* src, unsigned long src_len,
-                        to_nfd const&) {
-    return normalize(normal_form::nfd, dst, dst_len, src, src_len);
-}
-
-unsigned long transform(char16_t* dst, unsigned long dst_len, char16_t const* src, unsigned long src_len,
-                        to_nfc const&) {
-    return normalize(normal_form::nfc, dst, dst_len, src, src_len);
-}
-
-unsigned long transform(char16_t* dst, unsigned long dst_len, char16_t const* src, unsigned long src_len,
-                        to_nfkc const&) {
-    return normalize(normal_form::nfkc, dst, dst_len, src, src_len);
-}
-
-unsigned long transform(char16_t* dst, unsigned long dst_len, char16_t const* src, unsigned long src_len,
-                        to_nfkd const&) {
-    return normalize(normal_form::nfkd, dst, dst_len, src, src_len);
 }
 
 } // namespace fl::i18n::detail

@@ -1,7 +1,7 @@
-#include "text/characters/case_mapping.hpp"
+#include "text/characters/transform_by_icu.hpp"
 
 #include <fl/i18n/locale.hpp>
-#include <fl/i18n/transform.hpp>
+#include <fl/i18n/locale_case.hpp>
 
 namespace fl::i18n::detail {
 

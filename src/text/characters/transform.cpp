@@ -1,8 +1,6 @@
-#include "text/characters/case_mapping.hpp"
-
 #include "support/ascii.hpp"
-#include "text/characters/prefix_transform.hpp"
-#include "text/characters/transform_length.hpp"
+#include "text/characters/normalization.hpp"
+#include "text/characters/transform_by_icu.hpp"
 #include "text/characters/unit_run.hpp"
 
 #include <fl/i18n/transform.hpp>
@@ -53,16 +51,6 @@ unsigned long map_by_root_rules(case_function& function, char16_t* dst, unsigned
 
 } // namespace
 
-unsigned long map_case(case_function& function, char const* locale, char16_t* dst, unsigned long dst_len,
-                       char16_t const* src, unsigned long src_len) {
-    if (!src || src_len == 0)
-        return 0;
-    std::int32_t const capacity = dst ? checked_length(dst_len) : 0;
-    UErrorCode status = U_ZERO_ERROR;
-    std::int32_t const size = function(dst, capacity, src, checked_length(src_len), locale, &status);
-    return transformed_length(size, status);
-}
-
 unsigned long transform(char16_t* dst, unsigned long dst_len, char16_t const* src, unsigned long src_len,
                         to_upper const&) {
     return map_by_root_rules<support::to_ascii_upper>(u_strToUpper, dst, dst_len, src, src_len);
@@ -71,6 +59,26 @@ unsigned long transform(char16_t* dst, unsigned long dst_len, char16_t const* sr
 unsigned long transform(char16_t* dst, unsigned long dst_len, char16_t const* src, unsigned long src_len,
                         to_lower const&) {
     return map_by_root_rules<support::to_ascii_lower>(u_strToLower, dst, dst_len, src, src_len);
+}
+
+unsigned long transform(char16_t* dst, unsigned long dst_len, char16_t const* src, unsigned long src_len,
+                        to_nfd const&) {
+    return normalize(normal_form::nfd, dst, dst_len, src, src_len);
+}
+
+unsigned long transform(char16_t* dst, unsigned long dst_len, char16_t const* src, unsigned long src_len,
+                        to_nfc const&) {
+    return normalize(normal_form::nfc, dst, dst_len, src, src_len);
+}
+
+unsigned long transform(char16_t* dst, unsigned long dst_len, char16_t const* src, unsigned long src_len,
+                        to_nfkc const&) {
+    return normalize(normal_form::nfkc, dst, dst_len, src, src_len);
+}
+
+unsigned long transform(char16_t* dst, unsigned long dst_len, char16_t const* src, unsigned long src_len,
+                        to_nfkd const&) {
+    return normalize(normal_form::nfkd, dst, dst_len, src, src_len);
 }
 
 } // namespace fl::i18n::detail

@@ -1,5 +1,5 @@
 #include "text/characters/normalization.hpp"
-#include "text/characters/transform_length.hpp"
+#include "text/characters/transform_by_icu.hpp"
 #include "text/characters/unit_run.hpp"
 
 #include <fl/i18n/transform.hpp>
