@@ -1,4 +1,4 @@
-#include "conversion/codecs/encoding_context.hpp"
+#include "conversion/codecs/icu_conversion.hpp"
 #include "conversion/codecs/sized_conversion.hpp"
 
 #include <fl/i18n/codecvt.hpp>

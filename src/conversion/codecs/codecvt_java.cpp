@@ -1,4 +1,4 @@
-#include "conversion/codecs/conversion_status.hpp"
+#include "conversion/codecs/icu_conversion.hpp"
 #include "support/icu_length.hpp"
 #include "support/raise.hpp"
 #include "support/sized_result.hpp"

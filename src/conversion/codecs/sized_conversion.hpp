@@ -5,7 +5,7 @@
 /// size.
 #pragma once
 
-#include "conversion/codecs/conversion_status.hpp"
+#include "conversion/codecs/icu_conversion.hpp"
 #include "support/raise.hpp"
 
 #include <fl/i18n/cvt_exceptions.hpp>

@@ -1,5 +1,4 @@
-#include "conversion/codecs/conversion_status.hpp"
-#include "conversion/codecs/encoding_context.hpp"
+#include "conversion/codecs/icu_conversion.hpp"
 
 #include <fl/i18n/stream_codecvt.hpp>
 

@@ -1,9 +1,11 @@
 #include "conversion/codecs/encoding_diagnostics.hpp"
 #include "conversion/codecs/sized_conversion.hpp"
+#include "conversion/contract/converter_name.hpp"
 
 #include <fl/i18n/code_points.hpp>
 #include <fl/i18n/codecvt_wide.hpp>
 #include <fl/i18n/conversion_step.hpp>
+#include <fl/i18n/encoding_name.hpp>
 #include <fl/i18n/string_conversion.hpp>
 
 namespace fl::i18n {
@@ -82,6 +84,15 @@ std::u32string to_u32string(ustring const& s) {
 
 std::u32string to_u32string(char16_t const* s) {
     return s && *s ? lcctype::codecvt_to_u32(s, std::char_traits<char16_t>::length(s)) : std::u32string();
+}
+
+std::string get_standard_encoding_name(std::string const& name) {
+    std::string known = lcmgmt::get_qn_standard_encoding_name_from_alias(name);
+    if (!known.empty())
+        return known;
+    std::string const own_name = detail::converter_name(name);
+    std::string const standard_name = detail::standard_name(own_name);
+    return lcmgmt::get_encoding_name_from_alias(standard_name.empty() ? own_name : standard_name);
 }
 
 } // namespace fl::i18n

@@ -1,5 +1,4 @@
-#include "conversion/codecs/charset_rules.hpp"
-#include "conversion/codecs/charset_settings.hpp"
+#include "conversion/codecs/charset_guess.hpp"
 #include "support/rows.hpp"
 #include "support/threads.hpp"
 

@@ -1,11 +1,20 @@
-/// What ICU's status after a conversion means to the caller.
+/// The two ends of a conversion by ICU: the converter behind a conversion object, and what ICU's status
+/// afterwards means to the caller.
 #pragma once
+
+#include <fl/i18n/cvt_ctx.hpp>
 
 #include <unicode/utypes.h>
 
 #include <cstddef>
+#include <memory>
+#include <string>
 
 namespace fl::i18n::detail {
+
+/// A new converter for the encoding, for that of the global locale if the name is empty. Throws
+/// `CvtInvalidEncodingName`.
+std::unique_ptr<CvtCtx> open_context(std::string const& encoding);
 
 /// Throws what a failing status stands for: `CvtInvalidCharacter` or `CvtConversionFailure`.
 [[noreturn]] void raise_conversion_failure(UErrorCode status);

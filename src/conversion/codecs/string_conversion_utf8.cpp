@@ -1,5 +1,7 @@
+// string_conversion.hpp: UTF-8. All ASCII, the common text, passes without a call of ICU.
+
 #include "conversion/codecs/ascii_scan.hpp"
-#include "conversion/codecs/conversion_status.hpp"
+#include "conversion/codecs/icu_conversion.hpp"
 #include "support/icu_length.hpp"
 #include "support/raise.hpp"
 #include "support/sized_result.hpp"

@@ -1,10 +1,17 @@
-#include "conversion/codecs/conversion_status.hpp"
+// The one place that turns ICU's status of a conversion into exceptions.
+
+#include "conversion/codecs/icu_conversion.hpp"
 
 #include "support/raise.hpp"
 
 #include <fl/i18n/cvt_exceptions.hpp>
+#include <fl/i18n/locale.hpp>
 
 namespace fl::i18n::detail {
+
+std::unique_ptr<CvtCtx> open_context(std::string const& encoding) {
+    return std::make_unique<CvtCtx>(encoding.empty() ? QnLocale::global().encoding() : encoding);
+}
 
 void raise_conversion_failure(UErrorCode status) {
     if (status == U_ILLEGAL_CHAR_FOUND || status == U_INVALID_CHAR_FOUND)

@@ -1,6 +1,10 @@
+// string_conversion.hpp: the converters of the process, those of ICU for its encoding and objects for the
+// terminal.
+
 #include "locale_runtime/context/global_locale_slot.hpp"
 #include "support/raise.hpp"
 
+#include <fl/i18n/codecvt.hpp>
 #include <fl/i18n/cvt_exceptions.hpp>
 #include <fl/i18n/locale.hpp>
 #include <fl/i18n/string_conversion.hpp>
@@ -8,8 +12,11 @@
 #include <unicode/ucnv.h>
 
 #include <utility>
+#include <variant>
 
-namespace fl::i18n::lcmgmt {
+namespace fl::i18n {
+
+namespace lcmgmt {
 
 namespace {
 
@@ -34,7 +41,8 @@ owned_converter open_process_encoding() {
     return opened;
 }
 
-owned_converter clone_codecvt(global_locale_slot const& slot) {
+/// For the slot's encoding where it has a master.
+owned_converter converter_for(global_locale_slot const& slot) {
     owned_converter clone = clone_master(slot);
     return clone ? std::move(clone) : open_process_encoding();
 }
@@ -42,7 +50,7 @@ owned_converter clone_codecvt(global_locale_slot const& slot) {
 } // namespace
 
 owned_converter clone_codecvt() {
-    return clone_codecvt(current_global_locale_slot());
+    return converter_for(current_global_locale_slot());
 }
 
 UConverter* get_cached_codecvt() {
@@ -50,10 +58,38 @@ UConverter* get_cached_codecvt() {
     global_locale_slot& slot = current_global_locale_slot();
     if (!slot.thread_converter().get()) {
         auto context = std::make_unique<lcctype::code_converter_context>();
-        context->converter = clone_codecvt(slot);
+        context->converter = converter_for(slot);
         slot.thread_converter().reset(context.release());
     }
     return slot.thread_converter()->converter.get();
 }
 
-} // namespace fl::i18n::lcmgmt
+} // namespace lcmgmt
+
+namespace {
+
+/// The converter for one of the terminal's encodings; it substitutes what it cannot convert.
+template <class Codecvt>
+std::unique_ptr<Codecvt> create_codecvt(QnLcOptDataCtx::LcOptDataType type) {
+    return std::make_unique<Codecvt>(std::get<std::string>(QnLocale::global().getLcOptData(type)), true);
+}
+
+} // namespace
+
+std::unique_ptr<converter<char16_t, char>> create_codecvt_terminal_to_ustring() {
+    return create_codecvt<codecvt_string_to_ustring>(QnLcOptDataCtx::terminal_encoding);
+}
+
+std::unique_ptr<converter<char, char16_t>> create_codecvt_ustring_to_terminal() {
+    return create_codecvt<codecvt_ustring_to_string>(QnLcOptDataCtx::terminal_encoding);
+}
+
+std::unique_ptr<converter<char16_t, char>> create_codecvt_terminal_input_to_ustring() {
+    return create_codecvt<codecvt_string_to_ustring>(QnLcOptDataCtx::terminal_input_encoding);
+}
+
+std::unique_ptr<converter<char, char16_t>> create_codecvt_ustring_to_terminal_output() {
+    return create_codecvt<codecvt_ustring_to_string>(QnLcOptDataCtx::terminal_output_encoding);
+}
+
+} // namespace fl::i18n

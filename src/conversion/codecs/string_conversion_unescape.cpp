@@ -1,3 +1,5 @@
+// string_conversion.hpp: the C escapes.
+
 #include "support/icu_length.hpp"
 #include "support/raise.hpp"
 
