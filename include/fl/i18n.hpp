@@ -67,7 +67,6 @@
 #include <fl/i18n/natural_sort_exceptions.hpp>
 #include <fl/i18n/pattern_match.hpp>
 #include <fl/i18n/regex_exceptions.hpp>
-#include <fl/i18n/regex_holder.hpp>
 #include <fl/i18n/resource_finder.hpp>
 #include <fl/i18n/scan.hpp>
 #include <fl/i18n/simple_pattern_match.hpp>

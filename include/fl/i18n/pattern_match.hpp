@@ -23,15 +23,19 @@
 #include <fl/i18n/character_handling_mode.hpp>
 #include <fl/i18n/export.hpp>
 #include <fl/i18n/regex_exceptions.hpp>
-#include <fl/i18n/regex_holder.hpp>
 #include <fl/i18n/ustring.hpp>
 
 #include <memory>
 #include <optional>
-#include <string_view>
 #include <utility>
 
+struct URegularExpression; // ICU's, see <unicode/uregex.h>
+
 namespace fl::i18n {
+
+namespace detail {
+struct compiled_pattern;
+}
 
 /// A compiled pattern. The operations are const, but set the text that the expression works on: an object
 /// serves one thread at a time. A moved-from object may be destroyed or assigned to; its operations throw
@@ -72,11 +76,9 @@ public:
     URegularExpression* icu_expression() const noexcept;
 
 private:
-    // The expression, or RegexInvalidObject.
-    URegularExpression* compiled() const;
+    detail::compiled_pattern const& compiled() const; // throws RegexInvalidObject
 
-    std::unique_ptr<detail::regex_holder> holder_;
-    unsigned int form_; // 0: no normalisation; bit 0: normalise; bit 1: to NFD instead of NFC
+    std::unique_ptr<detail::compiled_pattern const> compiled_; // null in a moved-from object
 };
 
 } // namespace fl::i18n

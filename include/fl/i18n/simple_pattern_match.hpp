@@ -17,14 +17,16 @@
 #include <fl/i18n/character_handling_mode.hpp>
 #include <fl/i18n/export.hpp>
 #include <fl/i18n/regex_exceptions.hpp>
-#include <fl/i18n/regex_holder.hpp>
 #include <fl/i18n/ustring.hpp>
+
+#include <memory>
 
 namespace fl::i18n {
 
 namespace detail {
+struct compiled_pattern;
 struct matcher_access;
-}
+} // namespace detail
 
 /// Opened once, then matches any number of texts. One thread at a time: a match moves the state of the
 /// expression. Nothing is thrown but `std::bad_alloc`, and `boost::numeric::positive_overflow` for a text or
@@ -54,8 +56,7 @@ private:
 
     regex_excp_id open_first(ustring const& pattern, character_handling_mode_context const& mode);
 
-    detail::regex_holder holder_;
-    unsigned int form_ = 0; // as in pattern_match
+    std::unique_ptr<detail::compiled_pattern const> compiled_; // null unless the state is `regex_success`
     regex_excp_id state_ = regex_not_opened;
 };
 

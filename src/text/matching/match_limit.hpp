@@ -10,13 +10,6 @@
 
 namespace fl::i18n::detail {
 
-/// The way to the expression of a matcher for the library's own use.
-struct matcher_access {
-    static URegularExpression* expression(simple_pattern_match const& matcher) noexcept {
-        return matcher.holder_.get();
-    }
-};
-
 /// Makes each later match give up with `regex_failed_match_operation` when it has taken `limit` steps of
 /// about a millisecond or less each (ICU's unit for `uregex_setTimeLimit`: ten thousand moves of the engine).
 /// 0 takes the limit away. False for an open that has not succeeded, and for a negative limit.

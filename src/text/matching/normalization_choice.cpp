@@ -1,35 +1,30 @@
+// From a character handling mode to the texts that a matcher compares.
+
 #include "text/matching/normalization_choice.hpp"
 
-#include "text/characters/normalization.hpp"
+#include "text/matching/regex_holder.hpp"
 
 #include <fl/i18n/ctype_exceptions.hpp>
 
-#include <boost/numeric/conversion/cast.hpp>
-
 namespace fl::i18n::detail {
 
-unsigned int normalization_form(character_handling_mode_context const& mode) noexcept {
+std::optional<normal_form> normalization_form(character_handling_mode_context const& mode) noexcept {
     if (mode.is_normalized_compose_mode() || mode.is_normalization_insensitive_mode())
-        return form_normalizes;
-    return mode.is_normalized_decompose_mode() ? form_normalizes | form_decomposes : form_none;
+        return normal_form::nfc;
+    return mode.is_normalized_decompose_mode() ? std::optional(normal_form::nfd) : std::nullopt;
 }
 
-std::optional<std::u16string_view> normalize_always(unsigned int form, std::u16string_view text,
-                                                    text_buffer& buffer) try {
+std::optional<std::u16string_view> normalize_to(normal_form form, std::u16string_view text,
+                                                text_buffer& buffer) try {
     matcher_length(text);
-    bool const decomposes = (form & form_decomposes) != 0;
-    return normalized(decomposes ? normal_form::nfd : normal_form::nfc, text, buffer);
+    return normalized(form, text, buffer);
 } catch (foundation::ustring::CtypeExceptionBase const&) {
     return std::nullopt;
 }
 
-std::optional<std::u16string_view> normalize_by_form(unsigned int form, std::u16string_view text,
-                                                     text_buffer& buffer) {
-    return normalizes(form) ? normalize_always(form, text, buffer) : text;
-}
-
-std::int32_t matcher_length(std::u16string_view text) {
-    return boost::numeric_cast<std::int32_t>(text.size());
+std::optional<std::u16string_view> normalize_by_form(std::optional<normal_form> form,
+                                                     std::u16string_view text, text_buffer& buffer) {
+    return form ? normalize_to(*form, text, buffer) : text;
 }
 
 } // namespace fl::i18n::detail

@@ -1,6 +1,6 @@
 #include "support/raise.hpp"
-#include "text/matching/expression_text.hpp"
 #include "text/matching/normalization_choice.hpp"
+#include "text/matching/regex_holder.hpp"
 
 #include <fl/i18n/pattern_match.hpp>
 #include <fl/i18n/string_conversion.hpp>
@@ -35,7 +35,7 @@ void require(UErrorCode status) {
         raise_for(regex_failed_match_operation);
 }
 
-view in_form(unsigned int form, view text, detail::text_buffer& buffer) {
+view in_form(std::optional<detail::normal_form> form, view text, detail::text_buffer& buffer) {
     std::optional<view> const result = detail::normalize_by_form(form, text, buffer);
     if (!result)
         raise_for(regex_failed_normalization);
@@ -58,14 +58,15 @@ std::pair<int, int> current_match(URegularExpression* expression) {
 
 } // namespace
 
-pattern_match::pattern_match(ustring const& pattern, character_handling_mode_context const& mode)
-    : holder_(std::make_unique<detail::regex_holder>()),
-      form_(detail::normalization_form(mode)) {
+pattern_match::pattern_match(ustring const& pattern, character_handling_mode_context const& mode) {
+    auto compiled = std::make_unique<detail::compiled_pattern>();
+    compiled->form = detail::normalization_form(mode);
     detail::text_buffer buffer;
     regex_excp_id const result =
-        holder_->open(in_form(form_, pattern, buffer), mode.is_case_sensitive_mode());
+        compiled->holder.open(in_form(compiled->form, pattern, buffer), mode.is_case_sensitive_mode());
     if (result != regex_success)
         raise_for(result);
+    compiled_ = std::move(compiled);
 }
 
 pattern_match::pattern_match(pattern_match&& other) noexcept = default;
@@ -73,10 +74,10 @@ pattern_match& pattern_match::operator=(pattern_match&& other) noexcept = defaul
 pattern_match::~pattern_match() = default;
 
 bool pattern_match::match(ustring const& text) const {
-    URegularExpression* const expression = compiled();
+    detail::compiled_pattern const& pattern = compiled();
     detail::text_buffer buffer;
     UErrorCode status = U_ZERO_ERROR;
-    bool const is_match = detail::matches(expression, in_form(form_, text, buffer), status);
+    bool const is_match = detail::matches(pattern.holder.get(), in_form(pattern.form, text, buffer), status);
     require(status);
     return is_match;
 }
@@ -85,9 +86,10 @@ std::optional<std::pair<int, int>> pattern_match::partialMatch(ustring const& te
     if (index < 0 || static_cast<std::size_t>(index) >= text.size())
         support::raise(
             std::out_of_range("Index " + std::to_string(index) + " is out of bounds for " + to_string(text)));
-    URegularExpression* const expression = compiled();
+    detail::compiled_pattern const& pattern = compiled();
+    URegularExpression* const expression = pattern.holder.get();
     detail::text_buffer buffer;
-    set_text(expression, in_form(form_, text, buffer));
+    set_text(expression, in_form(pattern.form, text, buffer));
     UErrorCode status = U_ZERO_ERROR;
     bool const is_found = uregex_find(expression, index, &status) != 0;
     require(status);
@@ -99,23 +101,23 @@ std::optional<std::pair<int, int>> pattern_match::partialMatch(ustring const& te
 ustring pattern_match::prepareForMatching(ustring const& text) const {
     // A string of this capacity keeps its units outside the string object, where they stay when it is moved.
     constexpr std::size_t outside = 64;
-    URegularExpression* const expression = compiled();
+    detail::compiled_pattern const& pattern = compiled();
     detail::text_buffer buffer;
     ustring prepared;
     prepared.reserve(outside);
-    prepared = in_form(form_, text, buffer);
-    set_text(expression, prepared);
+    prepared = in_form(pattern.form, text, buffer);
+    set_text(pattern.holder.get(), prepared);
     return prepared;
 }
 
 URegularExpression* pattern_match::icu_expression() const noexcept {
-    return holder_ ? holder_->get() : nullptr;
+    return compiled_ ? compiled_->holder.get() : nullptr;
 }
 
-URegularExpression* pattern_match::compiled() const {
-    if (!holder_ || !holder_->is_compiled())
+detail::compiled_pattern const& pattern_match::compiled() const {
+    if (!compiled_)
         raise_for(regex_invalid_object);
-    return holder_->get();
+    return *compiled_;
 }
 
 } // namespace fl::i18n

@@ -1,7 +1,8 @@
-#include "text/matching/normalization_choice.hpp"
+// The matchers' way to ICU's regular expressions.
 
-#include <fl/i18n/regex_holder.hpp>
+#include "text/matching/regex_holder.hpp"
 
+#include <boost/numeric/conversion/cast.hpp>
 #include <unicode/uregex.h>
 
 namespace fl::i18n::detail {
@@ -22,6 +23,19 @@ regex_excp_id regex_holder::open(std::u16string_view pattern, bool is_case_sensi
         return regex_failed_object_creation;
     expression_ = std::move(expression);
     return regex_success;
+}
+
+void set_text(URegularExpression* expression, std::u16string_view text, UErrorCode& status) {
+    uregex_setText(expression, text.data(), matcher_length(text), &status);
+}
+
+bool matches(URegularExpression* expression, std::u16string_view text, UErrorCode& status) {
+    set_text(expression, text, status);
+    return uregex_matches(expression, -1, &status) == 1;
+}
+
+std::int32_t matcher_length(std::u16string_view text) {
+    return boost::numeric_cast<std::int32_t>(text.size());
 }
 
 } // namespace fl::i18n::detail

@@ -1,6 +1,6 @@
-#include "text/matching/expression_text.hpp"
 #include "text/matching/match_limit.hpp"
 #include "text/matching/normalization_choice.hpp"
+#include "text/matching/regex_holder.hpp"
 
 #include <fl/i18n/simple_pattern_match.hpp>
 
@@ -22,31 +22,43 @@ regex_excp_id simple_pattern_match::open(ustring const& pattern,
 
 regex_excp_id simple_pattern_match::open_first(ustring const& pattern,
                                                character_handling_mode_context const& mode) {
-    form_ = detail::normalization_form(mode);
+    auto compiled = std::make_unique<detail::compiled_pattern>();
+    compiled->form = detail::normalization_form(mode);
     detail::text_buffer buffer;
-    std::optional<view> const normal_pattern = detail::normalize_always(form_, pattern, buffer);
+    std::optional<view> const normal_pattern =
+        detail::normalize_to(compiled->form.value_or(detail::normal_form::nfc), pattern, buffer);
     if (!normal_pattern)
         return regex_failed_normalization;
-    return holder_.open(detail::normalizes(form_) ? *normal_pattern : view(pattern),
-                        mode.is_case_sensitive_mode());
+    regex_excp_id const result = compiled->holder.open(compiled->form ? *normal_pattern : view(pattern),
+                                                       mode.is_case_sensitive_mode());
+    if (result == regex_success)
+        compiled_ = std::move(compiled);
+    return result;
 }
 
 bool simple_pattern_match::match(ustring const& text, regex_excp_id& status) const {
     status = regex_invalid_object;
-    if (state_ != regex_success)
+    if (!compiled_)
         return false;
     status = regex_failed_normalization;
-    if (detail::normalizes(form_) && text.empty())
+    if (compiled_->form && text.empty())
         return false;
     detail::text_buffer buffer;
-    std::optional<view> const prepared = detail::normalize_by_form(form_, text, buffer);
+    std::optional<view> const prepared = detail::normalize_by_form(compiled_->form, text, buffer);
     if (!prepared)
         return false;
     UErrorCode icu_status = U_ZERO_ERROR;
-    bool const is_match = detail::matches(holder_.get(), *prepared, icu_status);
+    bool const is_match = detail::matches(compiled_->holder.get(), *prepared, icu_status);
     status = U_FAILURE(icu_status) ? regex_failed_match_operation : regex_success;
     return status == regex_success && is_match;
 }
+
+/// The way to the expression of a matcher; null for one that isn't open.
+struct detail::matcher_access {
+    static URegularExpression* expression(simple_pattern_match const& matcher) noexcept {
+        return matcher.compiled_ ? matcher.compiled_->holder.get() : nullptr;
+    }
+};
 
 bool detail::limit_match_time(simple_pattern_match& matcher, std::int32_t limit) noexcept {
     UErrorCode status = U_ZERO_ERROR;

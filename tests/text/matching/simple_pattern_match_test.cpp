@@ -1,5 +1,6 @@
 #include "text/matching/match_limit.hpp"
 #include "text/matching/normalization_choice.hpp"
+#include "text/matching/regex_holder.hpp"
 
 #include <boost/numeric/conversion/cast.hpp>
 #include <gtest/gtest.h>
@@ -42,6 +43,7 @@ TEST(SimplePatternMatch, TimeLimitEndsHostileMatches) {
     EXPECT_EQ(status_of(matcher, u"y"), regex_success) << "the next text has the whole time again";
     std::u16string_view const endless(u"a", 0x80000000UL);
     detail::text_buffer buffer;
-    EXPECT_THROW(detail::normalize_by_form(1, endless, buffer), boost::numeric::positive_overflow);
+    EXPECT_THROW(detail::normalize_by_form(detail::normal_form::nfc, endless, buffer),
+                 boost::numeric::positive_overflow);
     EXPECT_THROW(detail::regex_holder().open(endless, true), boost::numeric::positive_overflow);
 }
