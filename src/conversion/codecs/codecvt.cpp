@@ -2,7 +2,6 @@
 #include "conversion/codecs/sized_conversion.hpp"
 
 #include <fl/i18n/codecvt.hpp>
-#include <fl/i18n/conversion_step.hpp>
 
 #include <unicode/ucnv.h>
 
@@ -74,14 +73,13 @@ unsigned long codecvt_ustring_to_string::do_get_destination_size(char16_t const*
 
 std::string codecvt_ustring_to_string::do_convert(char16_t const* src, unsigned long src_len) const {
     borrowed_converter const cnv(context_.get());
-    return detail::convert_sized_from_utf16(lcctype::stream_conversion_from_utf16, cnv.get(), src, src_len);
+    return detail::convert_sized(cnv.get(), src, src_len);
 }
 
 unsigned long codecvt_ustring_to_string::do_convert(char* dst, unsigned long dst_len, char16_t const* src,
                                                     unsigned long src_len) const {
     borrowed_converter const cnv(context_.get());
-    return detail::convert_sized_from_utf16(lcctype::stream_conversion_from_utf16, cnv.get(), dst, dst_len,
-                                            src, src_len);
+    return detail::convert_sized(cnv.get(), dst, dst_len, src, src_len);
 }
 
 codecvt_string_to_ustring::codecvt_string_to_ustring(std::string const& encoding, bool tolerate_invalid)
@@ -124,14 +122,13 @@ unsigned long codecvt_string_to_ustring::do_get_destination_size(char const* src
 
 ustring codecvt_string_to_ustring::do_convert(char const* src, unsigned long src_len) const {
     borrowed_converter const cnv(context_.get());
-    return detail::convert_sized_to_utf16(lcctype::stream_conversion_to_utf16, cnv.get(), src, src_len);
+    return detail::convert_sized(cnv.get(), src, src_len);
 }
 
 unsigned long codecvt_string_to_ustring::do_convert(char16_t* dst, unsigned long dst_len, char const* src,
                                                     unsigned long src_len) const {
     borrowed_converter const cnv(context_.get());
-    return detail::convert_sized_to_utf16(lcctype::stream_conversion_to_utf16, cnv.get(), dst, dst_len, src,
-                                          src_len);
+    return detail::convert_sized(cnv.get(), dst, dst_len, src, src_len);
 }
 
 } // namespace fl::i18n

@@ -4,7 +4,6 @@
 
 #include <fl/i18n/code_points.hpp>
 #include <fl/i18n/codecvt_wide.hpp>
-#include <fl/i18n/conversion_step.hpp>
 #include <fl/i18n/encoding_name.hpp>
 #include <fl/i18n/string_conversion.hpp>
 
@@ -14,7 +13,7 @@ namespace {
 
 ustring from_process_encoding(char const* src, unsigned long src_len) {
     auto const cnv = lcmgmt::clone_codecvt();
-    return detail::convert_sized_to_utf16(lcctype::stream_conversion_to_utf16, cnv.get(), src, src_len);
+    return detail::convert_sized(cnv.get(), src, src_len);
 }
 
 } // namespace
@@ -25,8 +24,7 @@ std::string to_string(ustring const& s) {
     if (detail::encoding_diagnostics)
         detail::report_non_ascii("to_string called with non-ASCII input: ", s);
     auto const cnv = lcmgmt::clone_codecvt();
-    return detail::convert_sized_from_utf16(lcctype::stream_conversion_from_utf16, cnv.get(), s.data(),
-                                            s.size());
+    return detail::convert_sized(cnv.get(), s.data(), s.size());
 }
 
 ustring to_ustring(std::string const& s) {
@@ -47,23 +45,23 @@ ustring to_ustring(char const* s) {
 }
 
 std::string to_string(ustring const& s, converter<char, char16_t> const& cvt) {
-    return s.empty() ? std::string() : cvt.convert(s.data(), s.size());
+    return s.empty() ? std::string() : cvt.convert(s);
 }
 
 ustring to_ustring(std::string const& s, converter<char16_t, char> const& cvt) {
-    return s.empty() ? ustring() : cvt.convert(s.data(), s.size());
+    return s.empty() ? ustring() : cvt.convert(s);
 }
 
 ustring to_ustring(char const* s, converter<char16_t, char> const& cvt) {
-    return s && *s ? cvt.convert(s, std::char_traits<char>::length(s)) : ustring();
+    return s && *s ? cvt.convert(s) : ustring();
 }
 
 ustring to_ustring(std::wstring const& s) {
-    return codecvt_wstring_to_ustring().convert(s.data(), s.size());
+    return codecvt_wstring_to_ustring().convert(s);
 }
 
 ustring to_ustring(wchar_t const* s) {
-    return s ? codecvt_wstring_to_ustring().convert(s, std::char_traits<wchar_t>::length(s)) : ustring();
+    return s ? codecvt_wstring_to_ustring().convert(s) : ustring();
 }
 
 ustring to_ustring(std::u32string const& s) {
@@ -75,7 +73,7 @@ ustring to_ustring(char32_t const* s) {
 }
 
 std::wstring to_wstring(ustring const& s) {
-    return codecvt_ustring_to_wstring().convert(s.data(), s.size());
+    return codecvt_ustring_to_wstring().convert(s);
 }
 
 std::u32string to_u32string(ustring const& s) {
