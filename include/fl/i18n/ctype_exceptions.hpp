@@ -24,10 +24,6 @@ namespace foundation::ustring {
 /// The family of all failures of text operations.
 class FL_I18N_EXPORT CtypeExceptionBase : public std::exception {
 public:
-    CtypeExceptionBase(CtypeExceptionBase const&) = default;
-    CtypeExceptionBase& operator=(CtypeExceptionBase const&) = default;
-    ~CtypeExceptionBase() override;
-
     /// The sentence of the class, ASCII. It lives as long as the exception object.
     char const* what() const noexcept override;
 
@@ -41,6 +37,9 @@ protected:
     CtypeExceptionBase(std::string message, std::int32_t kind, std::int32_t error_code);
 
 private:
+    /// Anchors the virtual table and the type information of each class in one object file.
+    virtual void anchor() const;
+
     std::string message_;
     std::int32_t kind_;
     std::int32_t error_code_;
@@ -50,9 +49,9 @@ private:
 class FL_I18N_EXPORT CtypeInvalidCharacter : public CtypeExceptionBase {
 public:
     CtypeInvalidCharacter();
-    CtypeInvalidCharacter(CtypeInvalidCharacter const&) = default;
-    CtypeInvalidCharacter& operator=(CtypeInvalidCharacter const&) = default;
-    ~CtypeInvalidCharacter() override;
+
+private:
+    void anchor() const override;
 };
 
 } // namespace foundation::ustring
@@ -63,36 +62,36 @@ namespace fl::i18n {
 class FL_I18N_EXPORT CtypeSizeTooLarge : public foundation::ustring::CtypeExceptionBase {
 public:
     CtypeSizeTooLarge();
-    CtypeSizeTooLarge(CtypeSizeTooLarge const&) = default;
-    CtypeSizeTooLarge& operator=(CtypeSizeTooLarge const&) = default;
-    ~CtypeSizeTooLarge() override;
+
+private:
+    void anchor() const override;
 };
 
 /// ICU failed to transform a text, with the status in `error_code()`. Kind 1, "Transformation failure."
 class FL_I18N_EXPORT CtypeTransformFailure : public foundation::ustring::CtypeExceptionBase {
 public:
     explicit CtypeTransformFailure(std::int32_t error_code);
-    CtypeTransformFailure(CtypeTransformFailure const&) = default;
-    CtypeTransformFailure& operator=(CtypeTransformFailure const&) = default;
-    ~CtypeTransformFailure() override;
+
+private:
+    void anchor() const override;
 };
 
 /// ICU failed to compare two texts, with the status in `error_code()`. Kind 2, "String comparison failure."
 class FL_I18N_EXPORT CtypeStrCompFailure : public foundation::ustring::CtypeExceptionBase {
 public:
     explicit CtypeStrCompFailure(std::int32_t error_code);
-    CtypeStrCompFailure(CtypeStrCompFailure const&) = default;
-    CtypeStrCompFailure& operator=(CtypeStrCompFailure const&) = default;
-    ~CtypeStrCompFailure() override;
+
+private:
+    void anchor() const override;
 };
 
 /// An argument is not one that the operation takes. Kind 4, "Invalid argument error."
 class FL_I18N_EXPORT CtypeInvalidArgument : public foundation::ustring::CtypeExceptionBase {
 public:
     CtypeInvalidArgument();
-    CtypeInvalidArgument(CtypeInvalidArgument const&) = default;
-    CtypeInvalidArgument& operator=(CtypeInvalidArgument const&) = default;
-    ~CtypeInvalidArgument() override;
+
+private:
+    void anchor() const override;
 };
 
 } // namespace fl::i18n

@@ -25,10 +25,6 @@ namespace fl::i18n {
 /// The family of all conversion failures.
 class FL_I18N_EXPORT CvtExceptionBase : public std::exception {
 public:
-    CvtExceptionBase(CvtExceptionBase const&) = default;
-    CvtExceptionBase& operator=(CvtExceptionBase const&) = default;
-    ~CvtExceptionBase() override;
-
     /// The message text of the class, ASCII. It lives as long as the exception object.
     char const* what() const noexcept override;
 
@@ -39,6 +35,9 @@ protected:
     CvtExceptionBase(std::string message, int kind);
 
 private:
+    /// Anchors the virtual table and the type information of each class in one object file.
+    virtual void anchor() const;
+
     std::string message_;
     int kind_;
 };
@@ -47,23 +46,22 @@ private:
 class FL_I18N_EXPORT CvtInvalidArgument : public CvtExceptionBase {
 public:
     CvtInvalidArgument();
-    CvtInvalidArgument(CvtInvalidArgument const&) = default;
-    CvtInvalidArgument& operator=(CvtInvalidArgument const&) = default;
-    ~CvtInvalidArgument() override;
+
+private:
+    void anchor() const override;
 };
 
 /// No converter exists for the name of an encoding. Kind 2, "Invalid encoding name specified."
 class FL_I18N_EXPORT CvtInvalidEncodingName : public CvtExceptionBase {
 public:
     explicit CvtInvalidEncodingName(std::string encoding);
-    CvtInvalidEncodingName(CvtInvalidEncodingName const&) = default;
-    CvtInvalidEncodingName& operator=(CvtInvalidEncodingName const&) = default;
-    ~CvtInvalidEncodingName() override;
 
     /// The name that failed, as the caller gave it. The reference lives as long as the exception object.
     std::string const& encoding() const noexcept { return encoding_; }
 
 private:
+    void anchor() const override;
+
     std::string encoding_;
 };
 
@@ -72,18 +70,18 @@ private:
 class FL_I18N_EXPORT CvtCallBackSettingFailure : public CvtExceptionBase {
 public:
     CvtCallBackSettingFailure();
-    CvtCallBackSettingFailure(CvtCallBackSettingFailure const&) = default;
-    CvtCallBackSettingFailure& operator=(CvtCallBackSettingFailure const&) = default;
-    ~CvtCallBackSettingFailure() override;
+
+private:
+    void anchor() const override;
 };
 
 /// A call-back mode that exists, but not in the direction asked for. Kind 4, "fl:i18n:CvtNonSupportedMode".
 class FL_I18N_EXPORT CvtNonSupportedMode : public CvtExceptionBase {
 public:
     CvtNonSupportedMode();
-    CvtNonSupportedMode(CvtNonSupportedMode const&) = default;
-    CvtNonSupportedMode& operator=(CvtNonSupportedMode const&) = default;
-    ~CvtNonSupportedMode() override;
+
+private:
+    void anchor() const override;
 };
 
 /// The source is ill-formed, or holds a character that the target encoding lacks. Kind 5, "Invalid character
@@ -91,9 +89,9 @@ public:
 class FL_I18N_EXPORT CvtInvalidCharacter : public CvtExceptionBase {
 public:
     CvtInvalidCharacter();
-    CvtInvalidCharacter(CvtInvalidCharacter const&) = default;
-    CvtInvalidCharacter& operator=(CvtInvalidCharacter const&) = default;
-    ~CvtInvalidCharacter() override;
+
+private:
+    void anchor() const override;
 };
 
 /// A length is beyond what a conversion can handle. Kind 6, "Data size too large for character code
@@ -101,9 +99,9 @@ public:
 class FL_I18N_EXPORT CvtSizeTooLarge : public CvtExceptionBase {
 public:
     CvtSizeTooLarge();
-    CvtSizeTooLarge(CvtSizeTooLarge const&) = default;
-    CvtSizeTooLarge& operator=(CvtSizeTooLarge const&) = default;
-    ~CvtSizeTooLarge() override;
+
+private:
+    void anchor() const override;
 };
 
 /// A conversion failed in any other way, a sequence cut off at the end of the source included. Kind 7,
@@ -111,9 +109,9 @@ public:
 class FL_I18N_EXPORT CvtConversionFailure : public CvtExceptionBase {
 public:
     CvtConversionFailure();
-    CvtConversionFailure(CvtConversionFailure const&) = default;
-    CvtConversionFailure& operator=(CvtConversionFailure const&) = default;
-    ~CvtConversionFailure() override;
+
+private:
+    void anchor() const override;
 };
 
 } // namespace fl::i18n

@@ -20,9 +20,6 @@ namespace fl::i18n {
 class FL_I18N_EXPORT NaturalSortCollatorException : public std::exception {
 public:
     explicit NaturalSortCollatorException(std::string const& error_code);
-    NaturalSortCollatorException(NaturalSortCollatorException const&) = default;
-    NaturalSortCollatorException& operator=(NaturalSortCollatorException const&) = default;
-    ~NaturalSortCollatorException() override;
 
     char const* what() const noexcept override;
 
@@ -35,9 +32,6 @@ private:
 class FL_I18N_EXPORT NaturalSortCompareException : public std::exception {
 public:
     explicit NaturalSortCompareException(std::string const& error_code);
-    NaturalSortCompareException(NaturalSortCompareException const&) = default;
-    NaturalSortCompareException& operator=(NaturalSortCompareException const&) = default;
-    ~NaturalSortCompareException() override;
 
     char const* what() const noexcept override;
 

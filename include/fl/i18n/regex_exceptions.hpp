@@ -33,10 +33,6 @@ enum regex_excp_id {
 /// The family of all failures of `pattern_match`.
 class FL_I18N_EXPORT RegexExceptionBase : public std::exception {
 public:
-    RegexExceptionBase(RegexExceptionBase const&) = default;
-    RegexExceptionBase& operator=(RegexExceptionBase const&) = default;
-    ~RegexExceptionBase() override;
-
     /// The error id of the class, "fl:i18n:" and the name of the class. It lives as long as the exception.
     char const* what() const noexcept override;
 
@@ -47,6 +43,9 @@ protected:
     RegexExceptionBase(std::string message, regex_excp_id kind);
 
 private:
+    /// Anchors the virtual table and the type information of each class in one object file.
+    virtual void anchor() const;
+
     std::string message_;
     regex_excp_id kind_;
 };
@@ -55,45 +54,45 @@ private:
 class FL_I18N_EXPORT RegexInvalidArgument : public RegexExceptionBase {
 public:
     RegexInvalidArgument();
-    RegexInvalidArgument(RegexInvalidArgument const&) = default;
-    RegexInvalidArgument& operator=(RegexInvalidArgument const&) = default;
-    ~RegexInvalidArgument() override;
+
+private:
+    void anchor() const override;
 };
 
 /// `regex_invalid_object`
 class FL_I18N_EXPORT RegexInvalidObject : public RegexExceptionBase {
 public:
     RegexInvalidObject();
-    RegexInvalidObject(RegexInvalidObject const&) = default;
-    RegexInvalidObject& operator=(RegexInvalidObject const&) = default;
-    ~RegexInvalidObject() override;
+
+private:
+    void anchor() const override;
 };
 
 /// `regex_failed_object_creation`
 class FL_I18N_EXPORT RegexFailedObjectCreation : public RegexExceptionBase {
 public:
     RegexFailedObjectCreation();
-    RegexFailedObjectCreation(RegexFailedObjectCreation const&) = default;
-    RegexFailedObjectCreation& operator=(RegexFailedObjectCreation const&) = default;
-    ~RegexFailedObjectCreation() override;
+
+private:
+    void anchor() const override;
 };
 
 /// `regex_failed_match_operation`
 class FL_I18N_EXPORT RegexFailedMatchOperation : public RegexExceptionBase {
 public:
     RegexFailedMatchOperation();
-    RegexFailedMatchOperation(RegexFailedMatchOperation const&) = default;
-    RegexFailedMatchOperation& operator=(RegexFailedMatchOperation const&) = default;
-    ~RegexFailedMatchOperation() override;
+
+private:
+    void anchor() const override;
 };
 
 /// `regex_failed_normalization`
 class FL_I18N_EXPORT RegexFailedNormalization : public RegexExceptionBase {
 public:
     RegexFailedNormalization();
-    RegexFailedNormalization(RegexFailedNormalization const&) = default;
-    RegexFailedNormalization& operator=(RegexFailedNormalization const&) = default;
-    ~RegexFailedNormalization() override;
+
+private:
+    void anchor() const override;
 };
 
 } // namespace fl::i18n

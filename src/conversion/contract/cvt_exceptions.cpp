@@ -31,14 +31,13 @@ CvtSizeTooLarge::CvtSizeTooLarge()
 
 CvtConversionFailure::CvtConversionFailure() : CvtExceptionBase("Failed to convert character code.", 7) {}
 
-// Defined here, so that the virtual tables and type information live in this object file alone.
-CvtExceptionBase::~CvtExceptionBase() = default;
-CvtInvalidArgument::~CvtInvalidArgument() = default;
-CvtInvalidEncodingName::~CvtInvalidEncodingName() = default;
-CvtCallBackSettingFailure::~CvtCallBackSettingFailure() = default;
-CvtNonSupportedMode::~CvtNonSupportedMode() = default;
-CvtInvalidCharacter::~CvtInvalidCharacter() = default;
-CvtSizeTooLarge::~CvtSizeTooLarge() = default;
-CvtConversionFailure::~CvtConversionFailure() = default;
+void CvtExceptionBase::anchor() const {}
+void CvtInvalidArgument::anchor() const {}
+void CvtInvalidEncodingName::anchor() const {}
+void CvtCallBackSettingFailure::anchor() const {}
+void CvtNonSupportedMode::anchor() const {}
+void CvtInvalidCharacter::anchor() const {}
+void CvtSizeTooLarge::anchor() const {}
+void CvtConversionFailure::anchor() const {}
 
 } // namespace fl::i18n

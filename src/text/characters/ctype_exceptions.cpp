@@ -2,8 +2,6 @@
 
 #include <utility>
 
-// Destructors are defined here, so that virtual tables and type information live in this object file alone.
-
 namespace foundation::ustring {
 
 CtypeExceptionBase::CtypeExceptionBase(std::string message, std::int32_t kind, std::int32_t error_code)
@@ -11,15 +9,14 @@ CtypeExceptionBase::CtypeExceptionBase(std::string message, std::int32_t kind, s
       kind_(kind),
       error_code_(error_code) {}
 
-CtypeExceptionBase::~CtypeExceptionBase() = default;
-
 char const* CtypeExceptionBase::what() const noexcept {
     return message_.c_str();
 }
 
 CtypeInvalidCharacter::CtypeInvalidCharacter() : CtypeExceptionBase("Invalid character error.", 3, 0) {}
 
-CtypeInvalidCharacter::~CtypeInvalidCharacter() = default;
+void CtypeExceptionBase::anchor() const {}
+void CtypeInvalidCharacter::anchor() const {}
 
 } // namespace foundation::ustring
 
@@ -35,9 +32,9 @@ CtypeStrCompFailure::CtypeStrCompFailure(std::int32_t error_code)
 
 CtypeInvalidArgument::CtypeInvalidArgument() : CtypeExceptionBase("Invalid argument error.", 4, 0) {}
 
-CtypeSizeTooLarge::~CtypeSizeTooLarge() = default;
-CtypeTransformFailure::~CtypeTransformFailure() = default;
-CtypeStrCompFailure::~CtypeStrCompFailure() = default;
-CtypeInvalidArgument::~CtypeInvalidArgument() = default;
+void CtypeSizeTooLarge::anchor() const {}
+void CtypeTransformFailure::anchor() const {}
+void CtypeStrCompFailure::anchor() const {}
+void CtypeInvalidArgument::anchor() const {}
 
 } // namespace fl::i18n

@@ -5,16 +5,12 @@ namespace fl::i18n {
 NaturalSortCollatorException::NaturalSortCollatorException(std::string const& error_code)
     : message_("Failed to create ICU Collator. Following error code received: " + error_code) {}
 
-NaturalSortCollatorException::~NaturalSortCollatorException() = default;
-
 char const* NaturalSortCollatorException::what() const noexcept {
     return message_.c_str();
 }
 
 NaturalSortCompareException::NaturalSortCompareException(std::string const& error_code)
     : message_("ICU Collator's compare operation failed. Following error code received: " + error_code) {}
-
-NaturalSortCompareException::~NaturalSortCompareException() = default;
 
 char const* NaturalSortCompareException::what() const noexcept {
     return message_.c_str();

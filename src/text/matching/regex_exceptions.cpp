@@ -27,12 +27,11 @@ RegexFailedMatchOperation::RegexFailedMatchOperation()
 RegexFailedNormalization::RegexFailedNormalization()
     : RegexExceptionBase("fl:i18n:RegexFailedNormalization", regex_failed_normalization) {}
 
-// Defined here, so that the virtual tables and type information live in this object file alone.
-RegexExceptionBase::~RegexExceptionBase() = default;
-RegexInvalidArgument::~RegexInvalidArgument() = default;
-RegexInvalidObject::~RegexInvalidObject() = default;
-RegexFailedObjectCreation::~RegexFailedObjectCreation() = default;
-RegexFailedMatchOperation::~RegexFailedMatchOperation() = default;
-RegexFailedNormalization::~RegexFailedNormalization() = default;
+void RegexExceptionBase::anchor() const {}
+void RegexInvalidArgument::anchor() const {}
+void RegexInvalidObject::anchor() const {}
+void RegexFailedObjectCreation::anchor() const {}
+void RegexFailedMatchOperation::anchor() const {}
+void RegexFailedNormalization::anchor() const {}
 
 } // namespace fl::i18n
