@@ -78,7 +78,7 @@ std::u16string names(std::string const& language, std::string const& encoding) {
     for (auto const& list : {demo::country_names(language), demo::language_names(language)})
         for (demo::message const& name : list) {
             try {
-                strict.get_destination_size(name.text.data(), name.text.size());
+                static_cast<void>(strict.convert(name.text));
                 result += name.text + u"\n";
             } catch (CvtExceptionBase const&) {
             }

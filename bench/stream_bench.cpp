@@ -99,7 +99,7 @@ void pair(std::string const& name, std::shared_ptr<Ours> const& ours, std::share
 
 bool has(std::string const& encoding, fl::ustring const& text) {
     try {
-        codecvt_ustring_to_string(encoding, false).get_destination_size(text.data(), text.size());
+        static_cast<void>(codecvt_ustring_to_string(encoding, false).convert(text));
         return true;
     } catch (CvtExceptionBase const&) {
         return false;

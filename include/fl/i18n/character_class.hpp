@@ -73,70 +73,73 @@ constexpr std::array<std::uint16_t, 128> make_ascii_class_table() {
 inline constexpr std::array<std::uint16_t, 128> ascii_class_table = make_ascii_class_table();
 
 /// Whether an ASCII character is in any class of the mask; false for everything above U+007F.
-constexpr bool is_ascii_class(unsigned int mask, char32_t c) noexcept {
+[[nodiscard]] constexpr bool is_ascii_class(unsigned int mask, char32_t c) noexcept {
     return c < 0x80 && (ascii_class_table[c] & mask) != 0;
 }
 
 /// Whether a character is in any class of the mask; false for a mask of 0. A mask with `class_alpha`,
 /// `class_digit` and `class_punct` together asks for `u_isgraph`, which has format and private use characters
 /// that none of the three has, and other symbols too.
-FL_I18N_EXPORT bool is_ctype(unsigned int mask, char32_t c) noexcept;
+[[nodiscard]] FL_I18N_EXPORT bool is_ctype(unsigned int mask, char32_t c) noexcept;
 
 /// The negation of `is_ctype`: in no class of the mask.
-FL_I18N_EXPORT bool do_not_ctype(unsigned int mask, char32_t c) noexcept;
+[[nodiscard]] FL_I18N_EXPORT bool do_not_ctype(unsigned int mask, char32_t c) noexcept;
 
 } // namespace detail
 
 namespace lcctype {
 
-FL_I18N_EXPORT bool iscntrl(char32_t c) noexcept; ///< `u_iscntrl`
-FL_I18N_EXPORT bool isspace(char32_t c) noexcept; ///< `u_isUWhiteSpace`: the Unicode property White_Space
+[[nodiscard]] FL_I18N_EXPORT bool iscntrl(char32_t c) noexcept; ///< `u_iscntrl`
+[[nodiscard]] FL_I18N_EXPORT bool
+isspace(char32_t c) noexcept; ///< `u_isUWhiteSpace`: the Unicode property White_Space
 /// `u_isWhitespace`: spaces at which a line may break, no no-break spaces, and the separators U+001C to
 /// U+001F
-FL_I18N_EXPORT bool isbreakable_space(char32_t c) noexcept;
-FL_I18N_EXPORT bool isblank(char32_t c) noexcept;  ///< `u_isblank`: horizontal space
-FL_I18N_EXPORT bool isalpha(char32_t c) noexcept;  ///< `u_isalpha`: the general categories L*
-FL_I18N_EXPORT bool isdigit(char32_t c) noexcept;  ///< `u_isdigit`: decimal digits of any script
-FL_I18N_EXPORT bool isalnum(char32_t c) noexcept;  ///< `u_isalnum`
-FL_I18N_EXPORT bool ispunct(char32_t c) noexcept;  ///< `u_ispunct`: the general categories P*, no symbols
-FL_I18N_EXPORT bool isxdigit(char32_t c) noexcept; ///< `u_isxdigit`: fullwidth letters A to F too
-FL_I18N_EXPORT bool isprint(char32_t c) noexcept;  ///< `u_isprint`
-FL_I18N_EXPORT bool islower(char32_t c) noexcept;  ///< `u_islower`
-FL_I18N_EXPORT bool isupper(char32_t c) noexcept;  ///< `u_isupper`
+[[nodiscard]] FL_I18N_EXPORT bool isbreakable_space(char32_t c) noexcept;
+[[nodiscard]] FL_I18N_EXPORT bool isblank(char32_t c) noexcept; ///< `u_isblank`: horizontal space
+[[nodiscard]] FL_I18N_EXPORT bool isalpha(char32_t c) noexcept; ///< `u_isalpha`: the general categories L*
+[[nodiscard]] FL_I18N_EXPORT bool isdigit(char32_t c) noexcept; ///< `u_isdigit`: decimal digits of any script
+[[nodiscard]] FL_I18N_EXPORT bool isalnum(char32_t c) noexcept; ///< `u_isalnum`
+[[nodiscard]] FL_I18N_EXPORT bool
+ispunct(char32_t c) noexcept; ///< `u_ispunct`: the general categories P*, no symbols
+[[nodiscard]] FL_I18N_EXPORT bool
+isxdigit(char32_t c) noexcept; ///< `u_isxdigit`: fullwidth letters A to F too
+[[nodiscard]] FL_I18N_EXPORT bool isprint(char32_t c) noexcept; ///< `u_isprint`
+[[nodiscard]] FL_I18N_EXPORT bool islower(char32_t c) noexcept; ///< `u_islower`
+[[nodiscard]] FL_I18N_EXPORT bool isupper(char32_t c) noexcept; ///< `u_isupper`
 
 /// Letters, marks, numbers, punctuation and symbols. Unlike `u_isgraph` it has no format and no private use
 /// characters.
-FL_I18N_EXPORT bool isgraph(char32_t c) noexcept;
+[[nodiscard]] FL_I18N_EXPORT bool isgraph(char32_t c) noexcept;
 
 /// `u_tolower` and `u_toupper`: the simple mappings, which take one character to one; a character without one
 /// stays as it is.
-FL_I18N_EXPORT char32_t tolower(char32_t c) noexcept;
-FL_I18N_EXPORT char32_t toupper(char32_t c) noexcept;
+[[nodiscard]] FL_I18N_EXPORT char32_t tolower(char32_t c) noexcept;
+[[nodiscard]] FL_I18N_EXPORT char32_t toupper(char32_t c) noexcept;
 
 /// Whether `c` is at most U+007F.
-constexpr bool isascii_character(char32_t c) noexcept {
+[[nodiscard]] constexpr bool isascii_character(char32_t c) noexcept {
     return c < 0x80;
 }
 
-constexpr bool isspace_ascii(char32_t c) noexcept {
+[[nodiscard]] constexpr bool isspace_ascii(char32_t c) noexcept {
     return detail::is_ascii_class(class_space, c);
 }
-constexpr bool isblank_ascii(char32_t c) noexcept {
+[[nodiscard]] constexpr bool isblank_ascii(char32_t c) noexcept {
     return detail::is_ascii_class(class_blank, c);
 }
-constexpr bool isalpha_ascii(char32_t c) noexcept {
+[[nodiscard]] constexpr bool isalpha_ascii(char32_t c) noexcept {
     return detail::is_ascii_class(class_alpha, c);
 }
-constexpr bool isdigit_ascii(char32_t c) noexcept {
+[[nodiscard]] constexpr bool isdigit_ascii(char32_t c) noexcept {
     return detail::is_ascii_class(class_digit, c);
 }
-constexpr bool isalnum_ascii(char32_t c) noexcept {
+[[nodiscard]] constexpr bool isalnum_ascii(char32_t c) noexcept {
     return detail::is_ascii_class(class_alpha | class_digit, c);
 }
-constexpr bool islower_ascii(char32_t c) noexcept {
+[[nodiscard]] constexpr bool islower_ascii(char32_t c) noexcept {
     return detail::is_ascii_class(class_lower, c);
 }
-constexpr bool isupper_ascii(char32_t c) noexcept {
+[[nodiscard]] constexpr bool isupper_ascii(char32_t c) noexcept {
     return detail::is_ascii_class(class_upper, c);
 }
 

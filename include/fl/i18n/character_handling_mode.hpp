@@ -35,19 +35,21 @@ public:
     character_handling_mode_context(unsigned int mask); // NOLINT(google-explicit-constructor)
 
     /// The mask as given.
-    unsigned int mask() const noexcept { return mask_; }
+    [[nodiscard]] unsigned int mask() const noexcept { return mask_; }
 
-    bool is_case_sensitive_mode() const noexcept { return (mask_ & case_insensitive_mode) == 0; }
+    [[nodiscard]] bool is_case_sensitive_mode() const noexcept {
+        return (mask_ & case_insensitive_mode) == 0;
+    }
     /// Bit 2 without bit 4.
-    bool is_normalized_compose_mode() const noexcept {
+    [[nodiscard]] bool is_normalized_compose_mode() const noexcept {
         return (mask_ & normalized_decompose_mode) == normalized_compose_mode;
     }
     /// Bits 2 and 4 together.
-    bool is_normalized_decompose_mode() const noexcept {
+    [[nodiscard]] bool is_normalized_decompose_mode() const noexcept {
         return (mask_ & normalized_decompose_mode) == normalized_decompose_mode;
     }
-    bool is_locale_dependent_mode() const noexcept { return (mask_ & locale_mode) != 0; }
-    bool is_normalization_insensitive_mode() const noexcept {
+    [[nodiscard]] bool is_locale_dependent_mode() const noexcept { return (mask_ & locale_mode) != 0; }
+    [[nodiscard]] bool is_normalization_insensitive_mode() const noexcept {
         return (mask_ & normalization_insensitive_mode) != 0;
     }
 

@@ -6,7 +6,7 @@
 /// answer is the encoding of the user's system, which is what unmarked text on that system most likely is in.
 ///
 ///     std::string const encoding = detect_charset(data, size, std::clog, u"notes.txt");
-///     ustring const text = codecvt_string_to_ustring(encoding, true).convert(data, size);
+///     ustring const text = codecvt_string_to_ustring(encoding, true).convert({data, size});
 ///
 /// The answer can be the system's encoding, which is empty if the locale database has none for the system: a
 /// codec then takes the global locale's. If it is one that ICU does not know, the codec throws
@@ -64,7 +64,7 @@ namespace fl::i18n {
 /// ICU's detector sees up to 2^31 - 16 bytes, and reads all of them: text that is neither ASCII nor UTF-8
 /// takes up to some 3 s for 100 MB. Of large data that you do not trust, give a prefix that ends with a line,
 /// so that no character is cut; 100 kB with some non-ASCII text in it are enough.
-FL_I18N_EXPORT std::string detect_charset(char const* data, unsigned long len, std::ostream& diagnostics,
-                                          ustring const& name);
+[[nodiscard]] FL_I18N_EXPORT std::string detect_charset(char const* data, unsigned long len,
+                                                        std::ostream& diagnostics, ustring const& name);
 
 } // namespace fl::i18n

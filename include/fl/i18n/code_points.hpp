@@ -24,17 +24,17 @@
 namespace fl::i18n::lcctype {
 
 /// Whether `c` is a Unicode scalar value: at most U+10FFFF and no surrogate.
-constexpr bool is_valid_utf32(char32_t c) noexcept {
+[[nodiscard]] constexpr bool is_valid_utf32(char32_t c) noexcept {
     return c < 0xD800 || (c >= 0xE000 && c <= 0x10FFFF);
 }
 
 /// Whether `c` fits one UTF-16 code unit. A surrogate does.
-constexpr bool is_valid_uchar(char32_t c) noexcept {
+[[nodiscard]] constexpr bool is_valid_uchar(char32_t c) noexcept {
     return c < 0x10000;
 }
 
 /// The code point of a surrogate pair; U+FFFD if the units are not a lead and a trail surrogate.
-constexpr char32_t make_utf32_from_uchar(char16_t lead, char16_t trail) noexcept {
+[[nodiscard]] constexpr char32_t make_utf32_from_uchar(char16_t lead, char16_t trail) noexcept {
     if ((lead & 0xFC00) != 0xD800 || (trail & 0xFC00) != 0xDC00)
         return 0xFFFD;
     return (static_cast<char32_t>(lead) << 10) + trail - 0x35FDC00;
@@ -54,7 +54,8 @@ constexpr unsigned long make_uchar_from_utf32(char32_t c, char16_t* out) noexcep
 }
 
 /// The number of UTF-16 code units that `codecvt_from_u32` gives for a text.
-FL_I18N_EXPORT unsigned long get_destination_size_from_u32(char32_t const* src, unsigned long len) noexcept;
+[[nodiscard]] FL_I18N_EXPORT unsigned long get_destination_size_from_u32(char32_t const* src,
+                                                                         unsigned long len) noexcept;
 
 /// Converts UTF-32 into a buffer of `dst_len` UTF-16 code units and returns the size of the whole result,
 /// which is above `dst_len` when the buffer was too small; then the buffer is full, if need be with the lead
@@ -64,12 +65,13 @@ FL_I18N_EXPORT unsigned long codecvt_from_u32(char16_t* dst, unsigned long dst_l
                                               unsigned long src_len) noexcept;
 
 /// The same, with a string as the result.
-FL_I18N_EXPORT ustring codecvt_from_u32(char32_t const* src, unsigned long len);
-FL_I18N_EXPORT ustring codecvt_from_u32(std::u32string const& s);
+[[nodiscard]] FL_I18N_EXPORT ustring codecvt_from_u32(char32_t const* src, unsigned long len);
+[[nodiscard]] FL_I18N_EXPORT ustring codecvt_from_u32(std::u32string const& s);
 
 /// The number of code points that `codecvt_to_u32` gives for a text: a surrogate pair counts as one, every
 /// other unit as one.
-FL_I18N_EXPORT unsigned long get_destination_size_to_u32(char16_t const* src, unsigned long len) noexcept;
+[[nodiscard]] FL_I18N_EXPORT unsigned long get_destination_size_to_u32(char16_t const* src,
+                                                                       unsigned long len) noexcept;
 
 /// Converts UTF-16 into a buffer of `dst_len` code points and returns the size of the whole result, which is
 /// above `dst_len` when the buffer was too small and is now full. A null or empty buffer asks for the size
@@ -78,7 +80,7 @@ FL_I18N_EXPORT unsigned long codecvt_to_u32(char32_t* dst, unsigned long dst_len
                                             unsigned long src_len) noexcept;
 
 /// The same, with a string as the result.
-FL_I18N_EXPORT std::u32string codecvt_to_u32(char16_t const* src, unsigned long len);
-FL_I18N_EXPORT std::u32string codecvt_to_u32(ustring const& s);
+[[nodiscard]] FL_I18N_EXPORT std::u32string codecvt_to_u32(char16_t const* src, unsigned long len);
+[[nodiscard]] FL_I18N_EXPORT std::u32string codecvt_to_u32(ustring const& s);
 
 } // namespace fl::i18n::lcctype

@@ -7,8 +7,8 @@
 /// text, is a property of the object: it raises, or it substitutes as ICU does.
 ///
 ///     codecvt_ustring_to_string const to_latin1("ISO-8859-1", false);
-///     std::string const bytes = to_latin1.convert(u"caf\u00e9", 4); // "caf\xe9"
-///     to_latin1.convert(u"\u20ac", 1);                             // throws CvtInvalidCharacter
+///     std::string const bytes = to_latin1.convert(u"caf\u00e9"); // "caf\xe9"
+///     to_latin1.convert(u"\u20ac");                            // throws CvtInvalidCharacter
 ///
 /// Texts of any length are converted: ICU counts in 32 bits, so it is given long texts in slices, and
 /// characters that a cut goes through are carried over. Texts of up to 1024 units are converted in one pass,
@@ -78,7 +78,7 @@ public:
     void reset_call_back();
 
     /// The mode in force; 0 for ICU's substitution, and for a moved-from object.
-    codecvt_call_back_mode get_call_back_mode() const;
+    [[nodiscard]] codecvt_call_back_mode get_call_back_mode() const;
 
 protected:
     unsigned long do_get_destination_size(char16_t const* src, unsigned long src_len) const override;
@@ -118,7 +118,7 @@ public:
     void reset_call_back();
 
     /// The mode in force; 0 for ICU's substitution, and for a moved-from object.
-    codecvt_call_back_mode get_call_back_mode() const;
+    [[nodiscard]] codecvt_call_back_mode get_call_back_mode() const;
 
 protected:
     unsigned long do_get_destination_size(char const* src, unsigned long src_len) const override;

@@ -3,7 +3,7 @@
 /// their nature. The objects cost nothing to make and live on the stack.
 ///
 ///     codecvt_ustring_to_ascii const to_ascii(false);
-///     std::string const id = to_ascii.convert(u"GMT", 3); // "GMT"; anything outside ASCII raises
+///     std::string const id = to_ascii.convert(u"GMT"); // "GMT"; anything outside ASCII raises
 ///
 /// Both classes are thread-safe: they have no mutable state. Unlike the converters for named encodings they
 /// convert one unit to one unit, so the form with a buffer stops at the shorter of the two ranges and returns

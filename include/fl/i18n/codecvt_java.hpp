@@ -2,7 +2,7 @@
 /// UTF-16 text to the modified UTF-8 of the Java world, as class files and the Java native interface use it.
 ///
 ///     codecvt_ustring_to_java_nonstandard_utf8 const to_java;
-///     std::string const bytes = to_java.convert(text.data(), text.size());
+///     std::string const bytes = to_java.convert(text);
 #pragma once
 
 #include <fl/i18n/converter.hpp>

@@ -3,7 +3,7 @@
 /// code point.
 ///
 ///     codecvt_ustring_to_wstring const to_wide;
-///     std::wstring const wide = to_wide.convert(u"\U0001F600", 2); // one element, 0x1F600
+///     std::wstring const wide = to_wide.convert(u"\U0001F600"); // one element, 0x1F600
 ///
 /// Both classes follow the rules of `lcctype::codecvt_to_u32` and `lcctype::codecvt_from_u32` and never raise
 /// for bad text. Both are thread-safe: they have no state. A null source is an empty text. The form with a

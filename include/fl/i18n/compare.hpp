@@ -4,9 +4,8 @@
 /// An empty tag type picks the rule:
 ///
 ///     using namespace fl::i18n;
-///     std::u16string_view const a = u"caf\u00E9", b = u"CAFE\u0301";
-///     detail::compare(a.data(), a.size(), b.data(), b.size(), case_sensitive());              // positive
-///     detail::compare(a.data(), a.size(), b.data(), b.size(), normalized_case_insensitive()); // 0
+///     detail::compare(u"caf\u00E9", u"CAFE\u0301", case_sensitive());              // positive
+///     detail::compare(u"caf\u00E9", u"CAFE\u0301", normalized_case_insensitive()); // 0
 ///
 /// The order is that of code units (after folding and normalisation, where the rule has them) and means
 /// nothing to a reader: it serves equality, sorted containers and binary search, not lists on a screen. It is
@@ -23,6 +22,8 @@
 
 #include <fl/i18n/ctype_exceptions.hpp>
 #include <fl/i18n/export.hpp>
+
+#include <string_view>
 
 namespace fl::i18n {
 
@@ -41,25 +42,36 @@ struct normalized_compatibility_case_insensitive {};
 namespace detail {
 
 /// What emptiness alone says of two texts: 1 if only `b` is empty, -1 if only `a` is, else 0.
-FL_I18N_EXPORT int check_str(char16_t const* a, unsigned long a_len, char16_t const* b,
-                             unsigned long b_len) noexcept;
+[[nodiscard]] FL_I18N_EXPORT int check_str(char16_t const* a, unsigned long a_len, char16_t const* b,
+                                           unsigned long b_len) noexcept;
 
 /// Negative, zero or positive as `a` stands before, with or behind `b`. An empty text stands before all
 /// others (-1 or 1), and is not looked at further. Else `CtypeSizeTooLarge` is thrown for a length of 2^31 or
 /// more, `CtypeStrCompFailure` when ICU cannot compare, and `CtypeTransformFailure` when it cannot normalise.
 /// @{
-FL_I18N_EXPORT int compare(char16_t const* a, unsigned long a_len, char16_t const* b, unsigned long b_len,
-                           case_sensitive const& tag);
-FL_I18N_EXPORT int compare(char16_t const* a, unsigned long a_len, char16_t const* b, unsigned long b_len,
-                           case_insensitive const& tag);
-FL_I18N_EXPORT int compare(char16_t const* a, unsigned long a_len, char16_t const* b, unsigned long b_len,
-                           normalized_case_sensitive const& tag);
-FL_I18N_EXPORT int compare(char16_t const* a, unsigned long a_len, char16_t const* b, unsigned long b_len,
-                           normalized_case_insensitive const& tag);
-FL_I18N_EXPORT int compare(char16_t const* a, unsigned long a_len, char16_t const* b, unsigned long b_len,
-                           normalized_compatibility_case_sensitive const& tag);
-FL_I18N_EXPORT int compare(char16_t const* a, unsigned long a_len, char16_t const* b, unsigned long b_len,
-                           normalized_compatibility_case_insensitive const& tag);
+[[nodiscard]] FL_I18N_EXPORT int compare(char16_t const* a, unsigned long a_len, char16_t const* b,
+                                         unsigned long b_len, case_sensitive const& tag);
+[[nodiscard]] FL_I18N_EXPORT int compare(char16_t const* a, unsigned long a_len, char16_t const* b,
+                                         unsigned long b_len, case_insensitive const& tag);
+[[nodiscard]] FL_I18N_EXPORT int compare(char16_t const* a, unsigned long a_len, char16_t const* b,
+                                         unsigned long b_len, normalized_case_sensitive const& tag);
+[[nodiscard]] FL_I18N_EXPORT int compare(char16_t const* a, unsigned long a_len, char16_t const* b,
+                                         unsigned long b_len, normalized_case_insensitive const& tag);
+[[nodiscard]] FL_I18N_EXPORT int compare(char16_t const* a, unsigned long a_len, char16_t const* b,
+                                         unsigned long b_len,
+                                         normalized_compatibility_case_sensitive const& tag);
+[[nodiscard]] FL_I18N_EXPORT int compare(char16_t const* a, unsigned long a_len, char16_t const* b,
+                                         unsigned long b_len,
+                                         normalized_compatibility_case_insensitive const& tag);
+
+/// The same for texts that know their length, by any of the rules.
+template <class Rule>
+requires requires(char16_t const* text, Rule const& tag) {
+    compare(text, 1, text, 1, tag);
+}
+[[nodiscard]] int compare(std::u16string_view a, std::u16string_view b, Rule const& tag) {
+    return compare(a.data(), a.size(), b.data(), b.size(), tag);
+}
 /// @}
 
 } // namespace detail

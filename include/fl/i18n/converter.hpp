@@ -7,7 +7,7 @@
 /// that holds one of them by reference need not know which encoding is behind it:
 ///
 ///     std::string to_bytes(fl::i18n::converter<char, char16_t> const& codecvt, fl::ustring const& text) {
-///         return codecvt.convert(text.data(), text.size());
+///         return codecvt.convert(text);
 ///     }
 ///
 /// All lengths count units of the type they belong to, never with a terminator. No terminator is written
@@ -36,15 +36,15 @@ public:
     virtual ~converter() = default;
 
     /// The number of `To` units that the source converts to, in all.
-    unsigned long get_destination_size(From const* src, unsigned long src_len) const {
+    [[nodiscard]] unsigned long get_destination_size(From const* src, unsigned long src_len) const {
         return do_get_destination_size(src, src_len);
     }
 
     /// The converted text.
-    std::basic_string<To> convert(From const* src, unsigned long src_len) const {
+    [[nodiscard]] std::basic_string<To> convert(From const* src, unsigned long src_len) const {
         return do_convert(src, src_len);
     }
-    std::basic_string<To> convert(std::basic_string_view<From> text) const {
+    [[nodiscard]] std::basic_string<To> convert(std::basic_string_view<From> text) const {
         return do_convert(text.data(), text.size());
     }
 
@@ -89,7 +89,7 @@ public:
     virtual void do_reset_state() const = 0;
 
     /// The most `To` units that one character can need; a hint, not a bound to size buffers by.
-    virtual unsigned long do_max_char_size() const = 0;
+    [[nodiscard]] virtual unsigned long do_max_char_size() const = 0;
 
 protected:
     stream_converter() = default;

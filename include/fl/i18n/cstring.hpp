@@ -14,24 +14,24 @@
 namespace fl::i18n {
 
 /// `u_strcmp`: compares whole texts.
-FL_I18N_EXPORT int strcmp(char16_t const* a, char16_t const* b) noexcept;
+[[nodiscard]] FL_I18N_EXPORT int strcmp(char16_t const* a, char16_t const* b) noexcept;
 
 /// `u_strncmp`: compares at most the first `n` units. For an `n` of 2^31 or more the answer is -1, without a
 /// look at the texts; nothing tells it from the -1 of a comparison.
-FL_I18N_EXPORT int strncmp(char16_t const* a, char16_t const* b, unsigned long n) noexcept;
+[[nodiscard]] FL_I18N_EXPORT int strncmp(char16_t const* a, char16_t const* b, unsigned long n) noexcept;
 
 /// The number of units before the first NUL, but at most `limit`; no unit from there on is read. A null text
 /// gives 0, and so does a `limit` with its top bit set, which is no length but a negative number converted.
-FL_I18N_EXPORT unsigned long strlen_lim(char16_t const* s, unsigned long limit) noexcept;
+[[nodiscard]] FL_I18N_EXPORT unsigned long strlen_lim(char16_t const* s, unsigned long limit) noexcept;
 
 namespace lcctype {
 
 /// `u_strcasecmp` with the default options: compares whole texts by their full case folding, whatever the
 /// locale. U+00DF equals "ss".
-FL_I18N_EXPORT int strcasecmp(char16_t const* a, char16_t const* b) noexcept;
+[[nodiscard]] FL_I18N_EXPORT int strcasecmp(char16_t const* a, char16_t const* b) noexcept;
 
 /// `u_strncasecmp`, as above for at most the first `n` units of each text. -1 for an `n` of 2^31 or more.
-FL_I18N_EXPORT int strncasecmp(char16_t const* a, char16_t const* b, unsigned long n) noexcept;
+[[nodiscard]] FL_I18N_EXPORT int strncasecmp(char16_t const* a, char16_t const* b, unsigned long n) noexcept;
 
 } // namespace lcctype
 } // namespace fl::i18n

@@ -5,7 +5,7 @@
 /// handle one kind, the whole family, or any `std::exception`:
 ///
 ///     try {
-///         size = detail::transform(dst, room, text.data(), text.size(), to_nfc());
+///         size = detail::transform(dst, room, text, to_nfc());
 ///     } catch (foundation::ustring::CtypeExceptionBase const& failure) {
 ///         log(failure.what(), failure.error_code());
 ///     }
@@ -28,10 +28,10 @@ public:
     char const* what() const noexcept override;
 
     /// A number that stays the same for a class over all releases: 0 to 4, as stated at each class.
-    std::int32_t kind() const noexcept { return kind_; }
+    [[nodiscard]] std::int32_t kind() const noexcept { return kind_; }
 
     /// ICU's status (a value of `UErrorCode`) where a call of ICU failed, else 0.
-    std::int32_t error_code() const noexcept { return error_code_; }
+    [[nodiscard]] std::int32_t error_code() const noexcept { return error_code_; }
 
 protected:
     CtypeExceptionBase(std::string message, std::int32_t kind, std::int32_t error_code);

@@ -107,7 +107,7 @@ public:
     /// `CvtSizeTooLarge` for 128 bytes or more, and `CvtCallBackSettingFailure` when ICU refuses the bytes.
     void change_from_substitution(std::string const& substitution);
 
-    codecvt_call_back_mode get_from_call_back_mode() const noexcept { return from_mode_; }
+    [[nodiscard]] codecvt_call_back_mode get_from_call_back_mode() const noexcept { return from_mode_; }
 
     /// Changes what happens at an ill-formed sequence of bytes. First goes back to mode 0; then takes 0 or
     /// `stop_call_back`. Throws `CvtNonSupportedMode` for every other named mode and for any value with a bit
@@ -120,27 +120,27 @@ public:
     /// Stops at the first ill-formed sequence. Does nothing if that is the mode already.
     void enable_to_invalid_check();
 
-    codecvt_call_back_mode get_to_call_back_mode() const noexcept { return to_mode_; }
+    [[nodiscard]] codecvt_call_back_mode get_to_call_back_mode() const noexcept { return to_mode_; }
 
     /// The standard name of the encoding, or ICU's name of the converter if no standard has one, or an empty
     /// text without a converter. The answer is found once: after a second `open_converter` it is still the
     /// first encoding's. The reference lives as long as the object.
-    std::string const& get_encoding() const;
+    [[nodiscard]] std::string const& get_encoding() const;
 
     /// Sets `name` to ICU's name of the converter, or leaves it alone if there is none. Returns `name`.
     std::string& get_cvt_name(std::string& name) const;
 
     /// The name that the first of the standards "MIME", "IANA" and "WINDOWS" gives to the encoding `name`, or
-    /// an empty text.
-    std::string get_std_encoding_name(std::string const& name) const;
+    /// an empty text. <fl/i18n/string_conversion.hpp> says which function to ask for the name of an encoding.
+    [[nodiscard]] std::string get_std_encoding_name(std::string const& name) const;
 
     /// The most bytes that one UTF-16 code unit can need (ICU's `ucnv_getMaxCharSize`), 4 for "UTF-8", 0
     /// without a converter.
-    unsigned long get_max_byte_size() const;
+    [[nodiscard]] unsigned long get_max_byte_size() const;
 
     /// The converter, or null. It stays owned by this object; whoever sets a call-back on it past this object
     /// must take it back again.
-    UConverter* handle() const noexcept { return converter_.get(); }
+    [[nodiscard]] UConverter* handle() const noexcept { return converter_.get(); }
 
 private:
     using action = void (*)(); // either of ICU's two call-back types, whose arguments can't be declared here

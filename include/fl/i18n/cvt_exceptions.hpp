@@ -5,7 +5,7 @@
 /// whole family, or any `std::exception`:
 ///
 ///     try {
-///         bytes = codecvt.convert(text.data(), text.size());
+///         bytes = codecvt.convert(text);
 ///     } catch (fl::i18n::CvtInvalidCharacter const&) {
 ///         // `text` holds a character that the encoding lacks, and the converter was told to stop there
 ///     }
@@ -29,7 +29,7 @@ public:
     char const* what() const noexcept override;
 
     /// A number that stays the same for a class over all releases: 1 to 7, as stated at each class.
-    int kind() const noexcept { return kind_; }
+    [[nodiscard]] int kind() const noexcept { return kind_; }
 
 protected:
     CvtExceptionBase(std::string message, int kind);
@@ -57,7 +57,7 @@ public:
     explicit CvtInvalidEncodingName(std::string encoding);
 
     /// The name that failed, as the caller gave it. The reference lives as long as the exception object.
-    std::string const& encoding() const noexcept { return encoding_; }
+    [[nodiscard]] std::string const& encoding() const noexcept { return encoding_; }
 
 private:
     void anchor() const override;

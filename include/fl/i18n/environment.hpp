@@ -31,15 +31,15 @@ namespace fl::i18n {
 
 /// True if the variable is set, be it to an empty value.
 /// @{
-FL_I18N_EXPORT bool isenv(std::string const& name);
-FL_I18N_EXPORT bool isenv(ustring const& name);
+[[nodiscard]] FL_I18N_EXPORT bool isenv(std::string const& name);
+[[nodiscard]] FL_I18N_EXPORT bool isenv(ustring const& name);
 /// @}
 
 /// The value. Empty for a variable that is unset, with `errno` as it was; `isenv` tells that from an empty
 /// value.
 /// @{
-FL_I18N_EXPORT ustring getenv(std::string const& name);
-FL_I18N_EXPORT ustring getenv(ustring const& name);
+[[nodiscard]] FL_I18N_EXPORT ustring getenv(std::string const& name);
+[[nodiscard]] FL_I18N_EXPORT ustring getenv(ustring const& name);
 /// @}
 
 /// Sets the variable. With `overwrite` 0 a variable that is set already keeps its value, which is a success.

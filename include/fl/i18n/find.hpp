@@ -28,16 +28,18 @@ namespace fl::i18n::detail {
 /// Throws what the transforms throw: `CtypeSizeTooLarge` for a length of 2^31 or more (never with
 /// `case_sensitive`), and `CtypeTransformFailure`. May be called from any thread.
 /// @{
-FL_I18N_EXPORT unsigned long find(std::basic_string_view<char16_t> text,
-                                  std::basic_string_view<char16_t> pattern, case_sensitive const& tag);
-FL_I18N_EXPORT unsigned long find(std::basic_string_view<char16_t> text,
-                                  std::basic_string_view<char16_t> pattern, case_insensitive const& tag);
-FL_I18N_EXPORT unsigned long find(std::basic_string_view<char16_t> text,
-                                  std::basic_string_view<char16_t> pattern,
-                                  normalized_case_sensitive const& tag);
-FL_I18N_EXPORT unsigned long find(std::basic_string_view<char16_t> text,
-                                  std::basic_string_view<char16_t> pattern,
-                                  normalized_case_insensitive const& tag);
+[[nodiscard]] FL_I18N_EXPORT unsigned long find(std::basic_string_view<char16_t> text,
+                                                std::basic_string_view<char16_t> pattern,
+                                                case_sensitive const& tag);
+[[nodiscard]] FL_I18N_EXPORT unsigned long find(std::basic_string_view<char16_t> text,
+                                                std::basic_string_view<char16_t> pattern,
+                                                case_insensitive const& tag);
+[[nodiscard]] FL_I18N_EXPORT unsigned long find(std::basic_string_view<char16_t> text,
+                                                std::basic_string_view<char16_t> pattern,
+                                                normalized_case_sensitive const& tag);
+[[nodiscard]] FL_I18N_EXPORT unsigned long find(std::basic_string_view<char16_t> text,
+                                                std::basic_string_view<char16_t> pattern,
+                                                normalized_case_insensitive const& tag);
 /// @}
 
 } // namespace fl::i18n::detail

@@ -6,13 +6,15 @@
 ///
 ///     auto const turkish = QnLocale::createLocale("tr_TR");
 ///     char16_t upper[5];
-///     detail::transform(upper, 5, u"izmir", 5, to_upper_locale(*turkish)); // u"\u0130ZM\u0130R"
+///     detail::transform(upper, 5, u"izmir", to_upper_locale(*turkish)); // u"\u0130ZM\u0130R"
 ///
 /// All that <fl/i18n/transform.hpp> says of buffers, lengths, failures and threads holds here too.
 #pragma once
 
 #include <fl/i18n/export.hpp>
 #include <fl/i18n/transform.hpp>
+
+#include <string_view>
 
 namespace fl::i18n {
 
@@ -39,6 +41,15 @@ FL_I18N_EXPORT unsigned long transform(char16_t* dst, unsigned long dst_len, cha
                                        unsigned long src_len, to_upper_locale const& tag);
 FL_I18N_EXPORT unsigned long transform(char16_t* dst, unsigned long dst_len, char16_t const* src,
                                        unsigned long src_len, to_lower_locale const& tag);
+
+inline unsigned long transform(char16_t* dst, unsigned long dst_len, std::u16string_view src,
+                               to_upper_locale const& tag) {
+    return transform(dst, dst_len, src.data(), src.size(), tag);
+}
+inline unsigned long transform(char16_t* dst, unsigned long dst_len, std::u16string_view src,
+                               to_lower_locale const& tag) {
+    return transform(dst, dst_len, src.data(), src.size(), tag);
+}
 /// @}
 
 } // namespace detail

@@ -56,24 +56,24 @@ public:
     ~pattern_match();
 
     /// Whether the whole text matches.
-    bool match(ustring const& text) const;
+    [[nodiscard]] bool match(ustring const& text) const;
 
     /// The first match at or after `index`: its start and end, in units of the prepared text, as `index` is.
     /// Nothing if there is none. Throws `std::out_of_range` when `index` is negative or not below the length
     /// of `text` as given, so always for an empty text. An index inside the text but behind the end of a
     /// normalised one, which can be shorter, is a `RegexFailedMatchOperation`.
-    std::optional<std::pair<int, int>> partialMatch(ustring const& text, int index) const;
+    [[nodiscard]] std::optional<std::pair<int, int>> partialMatch(ustring const& text, int index) const;
 
     /// Sets the text for calls of ICU on `icu_expression()`, and returns it as the expression sees it,
     /// normalised if the mode says so. ICU reads the returned string: keep it, unchanged, as long as the
     /// expression works on it. It may be moved, as its units are never inside the string object, but a copy
     /// is another text.
-    ustring prepareForMatching(ustring const& text) const;
+    [[nodiscard]] ustring prepareForMatching(ustring const& text) const;
 
     /// The expression, for calls of ICU; null in a moved-from object. It lives as long as this object, or the
     /// one that this is moved to. `match` and `partialMatch` set another text, which has gone when they
     /// return.
-    URegularExpression* icu_expression() const noexcept;
+    [[nodiscard]] URegularExpression* icu_expression() const noexcept;
 
 private:
     detail::compiled_pattern const& compiled() const; // throws RegexInvalidObject

@@ -37,7 +37,7 @@ public:
     char const* what() const noexcept override;
 
     /// The status that stands for the same failure.
-    regex_excp_id kind() const noexcept { return kind_; }
+    [[nodiscard]] regex_excp_id kind() const noexcept { return kind_; }
 
 protected:
     RegexExceptionBase(std::string message, regex_excp_id kind);

@@ -32,33 +32,40 @@ namespace detail {
 using ustring_reverse_iterator = std::reverse_iterator<ustring::iterator>;
 using ustring_const_reverse_iterator = std::reverse_iterator<ustring::const_iterator>;
 
-FL_I18N_EXPORT char16_t* scan(unsigned int mask, char16_t* begin, char16_t* end, is_posix) noexcept;
-FL_I18N_EXPORT char16_t* scan(unsigned int mask, char16_t* begin, char16_t* end, is_not_posix) noexcept;
+[[nodiscard]] FL_I18N_EXPORT char16_t* scan(unsigned int mask, char16_t* begin, char16_t* end,
+                                            is_posix) noexcept;
+[[nodiscard]] FL_I18N_EXPORT char16_t* scan(unsigned int mask, char16_t* begin, char16_t* end,
+                                            is_not_posix) noexcept;
 
-FL_I18N_EXPORT char16_t const* scan(unsigned int mask, char16_t const* begin, char16_t const* end,
-                                    is_posix) noexcept;
-FL_I18N_EXPORT char16_t const* scan(unsigned int mask, char16_t const* begin, char16_t const* end,
-                                    is_not_posix) noexcept;
+[[nodiscard]] FL_I18N_EXPORT char16_t const* scan(unsigned int mask, char16_t const* begin,
+                                                  char16_t const* end, is_posix) noexcept;
+[[nodiscard]] FL_I18N_EXPORT char16_t const* scan(unsigned int mask, char16_t const* begin,
+                                                  char16_t const* end, is_not_posix) noexcept;
 
-FL_I18N_EXPORT ustring::iterator scan(unsigned int mask, ustring::iterator begin, ustring::iterator end,
-                                      is_posix) noexcept;
-FL_I18N_EXPORT ustring::iterator scan(unsigned int mask, ustring::iterator begin, ustring::iterator end,
-                                      is_not_posix) noexcept;
+[[nodiscard]] FL_I18N_EXPORT ustring::iterator scan(unsigned int mask, ustring::iterator begin,
+                                                    ustring::iterator end, is_posix) noexcept;
+[[nodiscard]] FL_I18N_EXPORT ustring::iterator scan(unsigned int mask, ustring::iterator begin,
+                                                    ustring::iterator end, is_not_posix) noexcept;
 
-FL_I18N_EXPORT ustring::const_iterator scan(unsigned int mask, ustring::const_iterator begin,
-                                            ustring::const_iterator end, is_posix) noexcept;
-FL_I18N_EXPORT ustring::const_iterator scan(unsigned int mask, ustring::const_iterator begin,
-                                            ustring::const_iterator end, is_not_posix) noexcept;
+[[nodiscard]] FL_I18N_EXPORT ustring::const_iterator scan(unsigned int mask, ustring::const_iterator begin,
+                                                          ustring::const_iterator end, is_posix) noexcept;
+[[nodiscard]] FL_I18N_EXPORT ustring::const_iterator scan(unsigned int mask, ustring::const_iterator begin,
+                                                          ustring::const_iterator end, is_not_posix) noexcept;
 
-FL_I18N_EXPORT ustring_reverse_iterator scan(unsigned int mask, ustring_reverse_iterator begin,
-                                             ustring_reverse_iterator end, is_posix) noexcept;
-FL_I18N_EXPORT ustring_reverse_iterator scan(unsigned int mask, ustring_reverse_iterator begin,
-                                             ustring_reverse_iterator end, is_not_posix) noexcept;
+[[nodiscard]] FL_I18N_EXPORT ustring_reverse_iterator scan(unsigned int mask, ustring_reverse_iterator begin,
+                                                           ustring_reverse_iterator end, is_posix) noexcept;
+[[nodiscard]] FL_I18N_EXPORT ustring_reverse_iterator scan(unsigned int mask, ustring_reverse_iterator begin,
+                                                           ustring_reverse_iterator end,
+                                                           is_not_posix) noexcept;
 
-FL_I18N_EXPORT ustring_const_reverse_iterator scan(unsigned int mask, ustring_const_reverse_iterator begin,
-                                                   ustring_const_reverse_iterator end, is_posix) noexcept;
-FL_I18N_EXPORT ustring_const_reverse_iterator scan(unsigned int mask, ustring_const_reverse_iterator begin,
-                                                   ustring_const_reverse_iterator end, is_not_posix) noexcept;
+[[nodiscard]] FL_I18N_EXPORT ustring_const_reverse_iterator scan(unsigned int mask,
+                                                                 ustring_const_reverse_iterator begin,
+                                                                 ustring_const_reverse_iterator end,
+                                                                 is_posix) noexcept;
+[[nodiscard]] FL_I18N_EXPORT ustring_const_reverse_iterator scan(unsigned int mask,
+                                                                 ustring_const_reverse_iterator begin,
+                                                                 ustring_const_reverse_iterator end,
+                                                                 is_not_posix) noexcept;
 
 } // namespace detail
 } // namespace fl::i18n

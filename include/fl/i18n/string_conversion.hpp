@@ -38,30 +38,31 @@ namespace fl::i18n {
 /// substitution character, an illegal byte sequence U+FFFD (U+001A in some encodings). `CvtConversionFailure`
 /// is thrown only when neither the shared converter can be cloned nor the process encoding be opened.
 /// @{
-FL_I18N_EXPORT std::string to_string(ustring const& s);
-FL_I18N_EXPORT ustring to_ustring(std::string const& s);
-FL_I18N_EXPORT ustring to_ustring(char const* s); ///< NUL-terminated
+[[nodiscard]] FL_I18N_EXPORT std::string to_string(ustring const& s);
+[[nodiscard]] FL_I18N_EXPORT ustring to_ustring(std::string const& s);
+[[nodiscard]] FL_I18N_EXPORT ustring to_ustring(char const* s); ///< NUL-terminated
 /// @}
 
 /// @name By a converter
 /// As the converter's `convert`, with its exceptions; it is not called for an empty source.
 /// @{
-FL_I18N_EXPORT std::string to_string(ustring const& s, converter<char, char16_t> const& cvt);
-FL_I18N_EXPORT ustring to_ustring(std::string const& s, converter<char16_t, char> const& cvt);
-FL_I18N_EXPORT ustring to_ustring(char const* s, converter<char16_t, char> const& cvt); ///< NUL-terminated
+[[nodiscard]] FL_I18N_EXPORT std::string to_string(ustring const& s, converter<char, char16_t> const& cvt);
+[[nodiscard]] FL_I18N_EXPORT ustring to_ustring(std::string const& s, converter<char16_t, char> const& cvt);
+[[nodiscard]] FL_I18N_EXPORT ustring to_ustring(char const* s,
+                                                converter<char16_t, char> const& cvt); ///< NUL-terminated
 /// @}
 
 /// @name UTF-32
 /// The rules of `lcctype::codecvt_from_u32` and `lcctype::codecvt_to_u32`: an unpaired surrogate becomes
 /// U+FFFD on the way to UTF-32 and passes through on the way from it. No encoding is touched.
 /// @{
-FL_I18N_EXPORT ustring to_ustring(std::wstring const& s);
-FL_I18N_EXPORT ustring to_ustring(wchar_t const* s); ///< NUL-terminated
-FL_I18N_EXPORT ustring to_ustring(std::u32string const& s);
-FL_I18N_EXPORT ustring to_ustring(char32_t const* s); ///< NUL-terminated
-FL_I18N_EXPORT std::wstring to_wstring(ustring const& s);
-FL_I18N_EXPORT std::u32string to_u32string(ustring const& s);
-FL_I18N_EXPORT std::u32string to_u32string(char16_t const* s); ///< NUL-terminated
+[[nodiscard]] FL_I18N_EXPORT ustring to_ustring(std::wstring const& s);
+[[nodiscard]] FL_I18N_EXPORT ustring to_ustring(wchar_t const* s); ///< NUL-terminated
+[[nodiscard]] FL_I18N_EXPORT ustring to_ustring(std::u32string const& s);
+[[nodiscard]] FL_I18N_EXPORT ustring to_ustring(char32_t const* s); ///< NUL-terminated
+[[nodiscard]] FL_I18N_EXPORT std::wstring to_wstring(ustring const& s);
+[[nodiscard]] FL_I18N_EXPORT std::u32string to_u32string(ustring const& s);
+[[nodiscard]] FL_I18N_EXPORT std::u32string to_u32string(char16_t const* s); ///< NUL-terminated
 /// @}
 
 /// @name UTF-8
@@ -70,49 +71,65 @@ FL_I18N_EXPORT std::u32string to_u32string(char16_t const* s); ///< NUL-terminat
 /// `u_strFromUTF8WithSub` do it. Texts beyond ICU's 32-bit lengths are converted too; `CvtSizeTooLarge` is
 /// thrown where ICU's count of the result leaves that range.
 /// @{
-FL_I18N_EXPORT std::string ustring_to_utf8(ustring const& s);
-FL_I18N_EXPORT std::string ustring_to_utf8(char16_t const* s); ///< NUL-terminated
-FL_I18N_EXPORT std::string ustring_to_utf8(char16_t const* s, unsigned long len);
-FL_I18N_EXPORT std::string ustring_to_utf8(std::basic_string_view<char16_t> s);
-FL_I18N_EXPORT ustring utf8_to_ustring(std::string const& s);
-FL_I18N_EXPORT ustring utf8_to_ustring(char const* s); ///< NUL-terminated
-FL_I18N_EXPORT ustring utf8_to_ustring(char const* s, unsigned long len);
+[[nodiscard]] FL_I18N_EXPORT std::string ustring_to_utf8(ustring const& s);
+[[nodiscard]] FL_I18N_EXPORT std::string ustring_to_utf8(char16_t const* s); ///< NUL-terminated
+[[nodiscard]] FL_I18N_EXPORT std::string ustring_to_utf8(char16_t const* s, unsigned long len);
+[[nodiscard]] FL_I18N_EXPORT std::string ustring_to_utf8(std::basic_string_view<char16_t> s);
+[[nodiscard]] FL_I18N_EXPORT ustring utf8_to_ustring(std::string const& s);
+[[nodiscard]] FL_I18N_EXPORT ustring utf8_to_ustring(char const* s); ///< NUL-terminated
+[[nodiscard]] FL_I18N_EXPORT ustring utf8_to_ustring(char const* s, unsigned long len);
 /// @}
 
 /// `s` with its C escapes resolved, as ICU's `u_unescapeAt` reads them: u"a\\tb" gives u"a<tab>b", and an
 /// eight-digit `\U` escape above U+FFFF gives a surrogate pair. One bad escape, a backslash at the very end
 /// for one, makes the whole result empty. Throws `CvtSizeTooLarge` for 2^31 units or more.
-FL_I18N_EXPORT ustring unescape_c_mode(ustring const& s);
+[[nodiscard]] FL_I18N_EXPORT ustring unescape_c_mode(ustring const& s);
 
 /// The name under which this library knows the encoding `name`, which may be any alias that the library or
 /// ICU has for it: "latin1" and "iso8859_1" both give "ISO-8859-1". Where only ICU knows the encoding, the
 /// result is ICU's MIME, IANA or Windows name for it, the first that exists, or its own. Empty for a name
 /// that nobody knows.
-FL_I18N_EXPORT std::string get_standard_encoding_name(std::string const& name);
+///
+/// Several functions give the name of an encoding. Which to ask:
+///
+/// | To learn                                               | ask                                           |
+/// |--------------------------------------------------------|-----------------------------------------------|
+/// | the name by any alias that the library or ICU has      | `get_standard_encoding_name`                  |
+/// | the name by any alias of the library's, else the alias | `lcmgmt::get_encoding_name_from_alias`        |
+/// | the same, else an empty text                           | `get_qn_standard_encoding_name_from_alias`    |
+/// | whether the library or ICU has an encoding             | `lcmgmt::is_supported_encoding`               |
+/// | whether the library has it                             | `LcData::checkEncoding`                       |
+/// | the name in a database of one's own                    | `locale_database::get_standard_encoding_name` |
+/// | the name that standards have for an encoding of ICU's  | `CvtCtx::get_std_encoding_name`               |
+///
+/// `LcData::getEncodingFromAlias` and `LcData::getQnStandardEncodingName` are the second and the third one.
+[[nodiscard]] FL_I18N_EXPORT std::string get_standard_encoding_name(std::string const& name);
 
 /// @name Terminal converters
 /// A new converter for the encoding that the global locale has for the terminal, its input or its output. It
 /// substitutes what cannot be converted, and does not follow later changes of the locale. Throws
 /// `CvtInvalidEncodingName` if ICU does not know the encoding.
 /// @{
-FL_I18N_EXPORT std::unique_ptr<converter<char16_t, char>> create_codecvt_terminal_to_ustring();
-FL_I18N_EXPORT std::unique_ptr<converter<char, char16_t>> create_codecvt_ustring_to_terminal();
-FL_I18N_EXPORT std::unique_ptr<converter<char16_t, char>> create_codecvt_terminal_input_to_ustring();
-FL_I18N_EXPORT std::unique_ptr<converter<char, char16_t>> create_codecvt_ustring_to_terminal_output();
+[[nodiscard]] FL_I18N_EXPORT std::unique_ptr<converter<char16_t, char>> create_codecvt_terminal_to_ustring();
+[[nodiscard]] FL_I18N_EXPORT std::unique_ptr<converter<char, char16_t>> create_codecvt_ustring_to_terminal();
+[[nodiscard]] FL_I18N_EXPORT std::unique_ptr<converter<char16_t, char>>
+create_codecvt_terminal_input_to_ustring();
+[[nodiscard]] FL_I18N_EXPORT std::unique_ptr<converter<char, char16_t>>
+create_codecvt_ustring_to_terminal_output();
 /// @}
 
 namespace lcmgmt {
 
 /// A new ICU converter on the process encoding, in its initial state, with ICU's own call-backs: a clone of
 /// the shared one, or, where that fails, freshly opened. Throws `CvtConversionFailure` if neither works.
-FL_I18N_EXPORT std::unique_ptr<UConverter, lcctype::converter_close> clone_codecvt();
+[[nodiscard]] FL_I18N_EXPORT std::unique_ptr<UConverter, lcctype::converter_close> clone_codecvt();
 
 /// The calling thread's own ICU converter on the process encoding, made at its first call under the current
 /// locale: for callers that convert in a loop. Fails as `clone_codecvt` does. The handle stays with this
 /// thread, and with the library: do not close it, and do not use it after a change of the global locale, when
 /// the next call returns another one. Whatever state or call-back is set on it, the thread's next caller
 /// finds.
-FL_I18N_EXPORT UConverter* get_cached_codecvt();
+[[nodiscard]] FL_I18N_EXPORT UConverter* get_cached_codecvt();
 
 } // namespace lcmgmt
 } // namespace fl::i18n

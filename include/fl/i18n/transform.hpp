@@ -6,8 +6,8 @@
 /// buffer is too small. A null buffer asks for that length alone:
 ///
 ///     ustring const name = u"stra\u00DFe";
-///     ustring upper(detail::transform(nullptr, 0, name.data(), name.size(), to_upper()), u'\0');
-///     detail::transform(upper.data(), upper.size(), name.data(), name.size(), to_upper()); // u"STRASSE"
+///     ustring upper(detail::transform(nullptr, 0, name, to_upper()), u'\0');
+///     detail::transform(upper.data(), upper.size(), name, to_upper()); // u"STRASSE"
 ///
 /// For `detail::transform` with any tag but `to_no_diacritics`, which see:
 /// - Lengths count UTF-16 code units. A null source or a zero length is the empty text and gives 0. A null
@@ -28,6 +28,8 @@
 #include <fl/i18n/ctype_exceptions.hpp>
 #include <fl/i18n/export.hpp>
 #include <fl/i18n/ustring.hpp>
+
+#include <string_view>
 
 namespace fl::i18n {
 
@@ -85,11 +87,21 @@ FL_I18N_EXPORT unsigned long transform(char16_t* dst, unsigned long dst_len, cha
                                        unsigned long src_len, to_no_diacritics const& tag);
 
 /// The text without its marks, in a new string.
-FL_I18N_EXPORT ustring do_transform(char16_t const* src, unsigned long len, to_no_diacritics const& tag);
+[[nodiscard]] FL_I18N_EXPORT ustring do_transform(char16_t const* src, unsigned long len,
+                                                  to_no_diacritics const& tag);
 
 /// The same in place; returns `text`. A failure leaves it unchanged.
 FL_I18N_EXPORT ustring& do_transform(ustring& text, to_no_diacritics const& tag);
 /// @}
+
+/// Any of these transforms, of a text that knows its length.
+template <class Form>
+requires requires(char16_t* dst, Form const& tag) {
+    transform(dst, 1, dst, 1, tag);
+}
+unsigned long transform(char16_t* dst, unsigned long dst_len, std::u16string_view src, Form const& tag) {
+    return transform(dst, dst_len, src.data(), src.size(), tag);
+}
 
 } // namespace detail
 } // namespace fl::i18n

@@ -26,9 +26,9 @@ FL_I18N_EXPORT ustring& trim_right(ustring& s, ustring const& chars) noexcept;
 
 /// A stripped copy: both ends, the front, the back.
 /// @{
-FL_I18N_EXPORT ustring trim_copy(ustring const& s, ustring const& chars);
-FL_I18N_EXPORT ustring trim_copy_left(ustring const& s, ustring const& chars);
-FL_I18N_EXPORT ustring trim_copy_right(ustring const& s, ustring const& chars);
+[[nodiscard]] FL_I18N_EXPORT ustring trim_copy(ustring const& s, ustring const& chars);
+[[nodiscard]] FL_I18N_EXPORT ustring trim_copy_left(ustring const& s, ustring const& chars);
+[[nodiscard]] FL_I18N_EXPORT ustring trim_copy_right(ustring const& s, ustring const& chars);
 /// @}
 
 } // namespace fl::i18n

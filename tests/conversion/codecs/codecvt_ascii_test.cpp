@@ -14,15 +14,15 @@ TEST(CodecvtAscii, EveryUnitBehindTexts) {
             SCOPED_TRACE(c);
             std::string const bytes = std::string(length, 'x') + (c < 0x80 ? static_cast<char>(c) : '\xFF');
             fl::ustring const units = fl::ustring(length, u'x') + static_cast<char16_t>(c);
-            EXPECT_EQ(bytes, lax_out.convert(units.data(), units.size()));
+            EXPECT_EQ(bytes, lax_out.convert(units));
             if (c < 0x80) {
                 EXPECT_EQ(bytes.size(), strict_out.get_destination_size(units.data(), units.size()));
-                EXPECT_EQ(units, strict_in.convert(bytes.data(), bytes.size()));
+                EXPECT_EQ(units, strict_in.convert(bytes));
                 continue;
             }
-            EXPECT_THROW(strict_out.convert(units.data(), units.size()), CvtInvalidCharacter);
+            EXPECT_THROW(strict_out.convert(units), CvtInvalidCharacter);
             EXPECT_THROW(strict_in.get_destination_size(bytes.data(), bytes.size()), CvtInvalidCharacter);
-            EXPECT_EQ(units.substr(0, length) + u'\uFFFD', lax_in.convert(bytes.data(), bytes.size()));
+            EXPECT_EQ(units.substr(0, length) + u'\uFFFD', lax_in.convert(bytes));
         }
     EXPECT_EQ(0u, strict_out.convert(nullptr, 4, u"abc", 3) + strict_in.convert(nullptr, 4, "abc", 3));
 }

@@ -99,7 +99,7 @@ TEST(Codecvt, EmptyTextsBuffersAndModes) {
     EXPECT_EQ(6u, cvt.convert(nullptr, 9, u"\u20ac", 1));
     EXPECT_EQ("", cvt.convert(nullptr, 5));
     cvt.change_call_back(substitute_call_back, "?");
-    EXPECT_EQ("?", cvt.convert(u"\u20ac", 1));
+    EXPECT_EQ("?", cvt.convert(u"\u20ac"));
     EXPECT_THROW(codecvt_string_to_ustring(escape_java_call_back, "UTF-8"), CvtNonSupportedMode);
 }
 
@@ -109,7 +109,7 @@ TEST(CodecvtJava, ModifiedUtf8) {
     std::string bytes("a\xC0\x80\xDF\xBF\xED\xA0\x80\xED\xB0\x80\xED\xB0\x80", 14);
     for (; text.size() < 50000; text += text, bytes += bytes) {
         std::string half(bytes.size() / 2, ' ');
-        EXPECT_TRUE(bytes == cvt.convert(text.data(), text.size())) << text.size();
+        EXPECT_TRUE(bytes == cvt.convert(text)) << text.size();
         EXPECT_EQ(bytes.size(), cvt.convert(half.data(), half.size(), text.data(), text.size()));
     }
     EXPECT_THROW(cvt.convert(u"a", 0x80000000), CvtSizeTooLarge);

@@ -29,9 +29,7 @@ static void convert(stream_converter<To, From> const& cvt, std::basic_string<Fro
 /// Hands each of the four stream converters to `check`, with an input and what the conversion of the whole
 /// gives.
 static void check_each_stream(std::string const& name, fl::ustring const& text, auto const& check) {
-    auto const whole = [](auto const& cvt, auto const& input) {
-        return cvt.convert(input.data(), input.size());
-    };
+    auto const whole = [](auto const& cvt, auto const& input) { return cvt.convert(input); };
     codecvt_ustring_to_string const utf8("UTF-8", true), out(name, true);
     std::string const damage = "\x93\xFF\x1B$X\xE3", bytes = whole(out, text);
     std::string const bad_bytes = bytes.substr(0, 9) + damage + bytes.substr(9) + "\xE3\x81";

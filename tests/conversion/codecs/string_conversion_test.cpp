@@ -31,15 +31,15 @@ TEST(StringConversion, UsesTheEncodingsOfTheProcessAndTheTerminal) {
         UConverter* const cached = lcmgmt::get_cached_codecvt();
         std::thread([&] { EXPECT_NE(cached, lcmgmt::get_cached_codecvt()) << "one per thread"; }).join();
         EXPECT_EQ(bytes, to_string(u"\u00e9\u00a0"));
-        EXPECT_EQ(bytes, codecvt_ustring_to_string("", false).convert(u"\u00e9\u00a0", 2));
+        EXPECT_EQ(bytes, codecvt_ustring_to_string("", false).convert(u"\u00e9\u00a0"));
         EXPECT_EQ(u"\u00e9\u00a0\u00e9\u00a0", to_ustring(bytes) + to_ustring(bytes.c_str()));
         EXPECT_EQ(fl::ustring(2000, u'\u00e9'), to_ustring(to_string(fl::ustring(2000, u'\u00e9'))));
         EXPECT_NE("", to_string(u"\uFFFF\xD800")) << "substitutes";
     }
     for (auto const create : {create_codecvt_ustring_to_terminal, create_codecvt_ustring_to_terminal_output})
-        EXPECT_EQ("\x93\xFA\xFC\xFC", create()->convert(u"\u65e5\u00e9", 2));
+        EXPECT_EQ("\x93\xFA\xFC\xFC", create()->convert(u"\u65e5\u00e9"));
     for (auto const create : {create_codecvt_terminal_to_ustring, create_codecvt_terminal_input_to_ustring})
-        EXPECT_EQ(u"\u65e5\x1A", create()->convert("\x93\xFA\xFF", 3));
+        EXPECT_EQ(u"\u65e5\x1A", create()->convert("\x93\xFA\xFF"));
 }
 
 // Encodings and converters that cannot convert show which calls use them at all.

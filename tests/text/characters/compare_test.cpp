@@ -18,7 +18,7 @@ static int sign(int order) {
 
 template <class Tag>
 static int by(std::u16string_view a, std::u16string_view b) {
-    return sign(detail::compare(a.data(), a.size(), b.data(), b.size(), Tag()));
+    return sign(detail::compare(a, b, Tag()));
 }
 
 static constexpr decltype(&by<case_sensitive>) compare[] = {by<case_sensitive>,
