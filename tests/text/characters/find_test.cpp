@@ -2,7 +2,6 @@
 
 #include <fl/i18n/find.hpp>
 
-#include <chrono>
 #include <vector>
 
 using namespace fl::i18n;
@@ -42,10 +41,8 @@ TEST(Find, RepetitiveTextsInLinearTimeAsByTheNaiveSearch) {
         pattern[random() % pattern.size()] ^= static_cast<char16_t>(round % 3);
         expect_as_naive(text, pattern);
     }
-    ustring const half(500'000, u'a');
-    auto const start = std::chrono::steady_clock::now();
-    EXPECT_EQ(detail::find(ustring(4'000'000, u'a'), half + u"b" + half, case_sensitive()), ~0UL);
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
+    ustring const half(4'000'000, u'a'); // with which the naive search is done after some hours
+    EXPECT_EQ(detail::find(ustring(32'000'000, u'a'), half + u"b" + half, case_sensitive()), ~0UL);
     std::u16string_view const endless(u"a", 0x80000000UL);
     EXPECT_THROW(detail::find(endless, u"a", case_insensitive()), CtypeSizeTooLarge);
     EXPECT_THROW(detail::find(u"a", endless, normalized_case_sensitive()), CtypeSizeTooLarge);
