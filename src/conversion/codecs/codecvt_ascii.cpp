@@ -1,4 +1,5 @@
 #include "conversion/codecs/ascii_scan.hpp"
+#include "support/ascii.hpp"
 #include "support/raise.hpp"
 
 #include <fl/i18n/codecvt_ascii.hpp>
@@ -10,12 +11,17 @@ namespace fl::i18n {
 
 namespace {
 
+/// Out of line, for the sake of the loops.
+[[noreturn, gnu::noinline]] void refuse() {
+    support::raise(CvtInvalidCharacter());
+}
+
 template <class Unit>
-unsigned long checked_size(Unit const* src, unsigned long src_len, bool substitute_invalid) {
+std::size_t checked_size(Unit const* src, std::size_t src_len, bool substitute_invalid) {
     if (!src)
         return 0;
     if (!substitute_invalid && !detail::is_ascii_text(src, src_len))
-        support::raise(CvtInvalidCharacter());
+        refuse();
     return src_len;
 }
 
@@ -24,7 +30,7 @@ char narrow(char16_t c) noexcept {
 }
 
 char16_t widen(char c) noexcept {
-    return detail::is_ascii_unit(c) ? static_cast<char16_t>(c) : u'\uFFFD';
+    return detail::is_ascii_unit(c) ? static_cast<char16_t>(c) : support::replacement_character;
 }
 
 } // namespace
@@ -44,8 +50,8 @@ unsigned long codecvt_ustring_to_ascii::do_convert(char* dst, unsigned long dst_
                                                    unsigned long src_len) const {
     if (!dst)
         return 0;
-    unsigned long const size = checked_size(src, std::min(src_len, dst_len), substitute_invalid_);
-    for (unsigned long i = 0; i != size; ++i)
+    std::size_t const size = checked_size(src, std::min(src_len, dst_len), substitute_invalid_);
+    for (std::size_t i = 0; i != size; ++i)
         dst[i] = narrow(src[i]);
     return size;
 }
@@ -65,10 +71,10 @@ unsigned long codecvt_ascii_to_ustring::do_convert(char16_t* dst, unsigned long 
                                                    unsigned long src_len) const {
     if (!dst || !src)
         return 0;
-    unsigned long const size = std::min(src_len, dst_len);
-    for (unsigned long i = size; i != 0; --i) {
+    std::size_t const size = std::min(src_len, dst_len);
+    for (std::size_t i = size; i != 0; --i) {
         if (!substitute_invalid_ && !detail::is_ascii_unit(src[i - 1]))
-            support::raise(CvtInvalidCharacter());
+            refuse();
         dst[i - 1] = widen(src[i - 1]);
     }
     return size;

@@ -24,7 +24,7 @@ unsigned long codecvt_ustring_to_java_nonstandard_utf8::do_get_destination_size(
 std::string codecvt_ustring_to_java_nonstandard_utf8::do_convert(char16_t const* src,
                                                                  unsigned long src_len) const {
     return support::sized_result<std::string>(
-        src_len, [&](char* dst, unsigned long capacity) { return do_convert(dst, capacity, src, src_len); },
+        src_len, [&](char* dst, std::size_t capacity) { return do_convert(dst, capacity, src, src_len); },
         [] { support::raise(CvtConversionFailure()); });
 }
 

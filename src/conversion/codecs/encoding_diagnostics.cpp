@@ -1,3 +1,5 @@
+// Reports of texts that rely on the process encoding without being ASCII.
+
 #include "conversion/codecs/encoding_diagnostics.hpp"
 
 #include "conversion/codecs/ascii_scan.hpp"

@@ -1,4 +1,4 @@
-// The one place that turns ICU's status of a conversion into exceptions.
+// Where a conversion by ICU begins and ends: with a converter, and with a status that may be an exception.
 
 #include "conversion/codecs/icu_conversion.hpp"
 

@@ -2,6 +2,7 @@
 
 #include "conversion/codecs/ascii_scan.hpp"
 #include "conversion/codecs/icu_conversion.hpp"
+#include "support/ascii.hpp"
 #include "support/icu_length.hpp"
 #include "support/raise.hpp"
 #include "support/sized_result.hpp"
@@ -12,35 +13,23 @@
 
 #include <unicode/ustring.h>
 
-#include <algorithm>
-
 namespace fl::i18n {
 
 namespace {
 
-constexpr UChar32 replacement_character = 0xFFFD;
-
-// The longest texts that ICU is asked to convert in one call.
-constexpr unsigned long icu_utf16_limit = 0x3FFFFFFE;
-constexpr unsigned long icu_utf8_limit = 0x7FFFFFFE;
+/// The longest texts that ICU is asked to convert in one call.
+constexpr std::size_t icu_utf16_limit = 0x3FFFFFFE;
+constexpr std::size_t icu_utf8_limit = 0x7FFFFFFE;
 
 constexpr auto too_large = [] { support::raise(CvtSizeTooLarge()); };
 constexpr auto unstable = [] { support::raise(CvtConversionFailure()); };
-
-/// ASCII means the same in both forms.
-template <class String, class Unit>
-String copy_ascii(Unit const* s, unsigned long len) {
-    String result(len, typename String::value_type());
-    std::transform(s, s + len, result.begin(),
-                   [](Unit c) { return static_cast<typename String::value_type>(c); });
-    return result;
-}
 
 std::size_t to_utf8(char* dst, std::size_t capacity, char16_t const* src, std::size_t src_len) {
     std::int32_t size = 0;
     UErrorCode status = U_ZERO_ERROR;
     u_strToUTF8WithSub(dst, support::to_icu_length(capacity, too_large), &size, src,
-                       support::to_icu_length(src_len, too_large), replacement_character, nullptr, &status);
+                       support::to_icu_length(src_len, too_large), support::replacement_character, nullptr,
+                       &status);
     detail::check_conversion_status(status, src_len, detail::long_utf16_source);
     return support::from_icu_length(size, 0, too_large);
 }
@@ -49,7 +38,8 @@ std::size_t from_utf8(char16_t* dst, std::size_t capacity, char const* src, std:
     std::int32_t size = 0;
     UErrorCode status = U_ZERO_ERROR;
     u_strFromUTF8WithSub(dst, support::to_icu_length(capacity, too_large), &size, src,
-                         support::to_icu_length(src_len, too_large), replacement_character, nullptr, &status);
+                         support::to_icu_length(src_len, too_large), support::replacement_character, nullptr,
+                         &status);
     detail::check_conversion_status(status, src_len, detail::long_narrow_source);
     return support::from_icu_length(size, 0, too_large);
 }
@@ -60,9 +50,9 @@ std::string ustring_to_utf8(char16_t const* s, unsigned long len) {
     if (!s)
         return std::string();
     if (detail::is_ascii_text(s, len))
-        return copy_ascii<std::string>(s, len);
+        return support::narrowed({s, len});
     if (len > icu_utf16_limit)
-        return codecvt_ustring_to_string("UTF-8", true).convert(s, len);
+        return codecvt_ustring_to_string("UTF-8", true).convert({s, len});
     auto const convert = [&](char* dst, std::size_t capacity) { return to_utf8(dst, capacity, s, len); };
     return support::sized_result<std::string>(len, convert, unstable);
 }
@@ -83,9 +73,9 @@ ustring utf8_to_ustring(char const* s, unsigned long len) {
     if (!s)
         return ustring();
     if (detail::is_ascii_text(s, len))
-        return copy_ascii<ustring>(s, len);
+        return support::widened({s, len});
     if (len > icu_utf8_limit)
-        return codecvt_string_to_ustring("UTF-8", true).convert(s, len);
+        return codecvt_string_to_ustring("UTF-8", true).convert({s, len});
     auto const convert = [&](char16_t* dst, std::size_t capacity) {
         return from_utf8(dst, capacity, s, len);
     };

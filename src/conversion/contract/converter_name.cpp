@@ -1,3 +1,5 @@
+// Names of encodings as ICU and the standards have them; those of the library are the locale database's.
+
 #include "conversion/contract/converter_name.hpp"
 
 #include <fl/i18n/cvt_ctx.hpp>

@@ -55,7 +55,7 @@ UConverter* require(UConverter* converter) {
     return converter;
 }
 
-// `set` is ICU's setter of one direction; the result is what was set before.
+/// `set` is ICU's setter of one direction; the result is what was set before.
 template <class Action, class Setter>
 call_back<Action> exchange(UConverter* converter, Setter set, Action action, void const* context) {
     call_back<Action> old{};

@@ -14,10 +14,11 @@ unsigned long codecvt_from_u32(char16_t* dst, unsigned long dst_len, char32_t co
 }
 
 ustring codecvt_from_u32(char32_t const* src, unsigned long len) {
-    constexpr unsigned long short_text = 1024; // code points
+    // A short text needs no counting pass: the buffer holds the most that it can become.
+    constexpr std::size_t short_text = 1024; // code points
     if (len <= short_text) {
         char16_t buffer[2 * short_text];
-        unsigned long const size = codecvt_from_u32(buffer, 2 * short_text, src, len);
+        std::size_t const size = codecvt_from_u32(buffer, 2 * short_text, src, len);
         return ustring(buffer, size);
     }
     ustring result(get_destination_size_from_u32(src, len), u'\0');

@@ -26,15 +26,15 @@ int order(std::size_t a, std::size_t b) noexcept {
     return static_cast<int>(a > b) - static_cast<int>(a < b);
 }
 
-// By code units: the rule that all others end with.
+/// By code units: the rule that all others end with.
 int compare_units(view a, view b) {
     std::size_t const shorter = std::min(a.size(), b.size());
     std::size_t const at = common_run(a.data(), b.data(), shorter);
     return at == shorter ? order(a.size(), b.size()) : a[at] - b[at];
 }
 
-// How much may be skipped: units below `separable` are characters of their own, to which nothing before them
-// joins. So by form "xe" may be taken apart before the e, but not "e\u0301" before the accent.
+/// How much may be skipped: units below `separable` are characters of their own, to which nothing before them
+/// joins. So by form "xe" may be taken apart before the e, but not "e\u0301" before the accent.
 struct skip_rule {
     bool folds_case;
     char16_t separable;
@@ -45,7 +45,7 @@ constexpr skip_rule by_case = {true, no_surrogate_limit}; // only a pair must st
 constexpr skip_rule by_form = {false, joining_limit};
 constexpr skip_rule by_form_and_case = {true, joining_limit};
 
-// Whether a text can be taken apart before its unit at `at`, where it may end.
+/// Whether a text can be taken apart before its unit at `at`, where it may end.
 bool is_separable(view text, std::size_t at, skip_rule rule) noexcept {
     return at == text.size() || text[at] < rule.separable;
 }
@@ -54,14 +54,14 @@ bool is_ascii_at(view text, std::size_t at) noexcept {
     return at == text.size() || text[at] < ascii_limit;
 }
 
-// The unit at `at` as a number that stands before all others where the text has ended.
+/// The unit at `at` as a number that stands before all others where the text has ended.
 int ascii_rank(view text, std::size_t at, skip_rule rule) noexcept {
     if (at == text.size())
         return -1;
     return rule.folds_case ? support::to_ascii_lower(text[at]) : text[at];
 }
 
-// The answer where it can be told without ICU. Otherwise `a` and `b` are cut down to what ICU must see.
+/// The answer where it can be told without ICU. Otherwise `a` and `b` are cut down to what ICU must see.
 std::optional<int> skip_common(view& a, view& b, skip_rule rule) noexcept {
     std::size_t const shorter = std::min(a.size(), b.size());
     std::size_t at = rule.folds_case ? common_run_without_case(a.data(), b.data(), shorter)
@@ -80,7 +80,7 @@ std::optional<int> skip_common(view& a, view& b, skip_rule rule) noexcept {
 using icu_comparison = decltype(unorm_compare);
 using rule = int(view, view);
 
-// The rule of a function of ICU with options.
+/// The rule of a function of ICU with options.
 template <icu_comparison& Function, std::uint32_t Options>
 int by_icu(view a, view b) {
     UErrorCode status = U_ZERO_ERROR;
@@ -91,7 +91,7 @@ int by_icu(view a, view b) {
     return result;
 }
 
-// The rule that compares both sides in NFKD by another.
+/// The rule that compares both sides in NFKD by another.
 template <rule CompareForms>
 int in_compatible_form(view a, view b) {
     text_buffer a_buffer;
@@ -101,14 +101,14 @@ int in_compatible_form(view a, view b) {
     return CompareForms(a_form, b_form);
 }
 
-// The rule that spares another one the start that both sides share.
+/// The rule that spares another one the start that both sides share.
 template <skip_rule Skip, rule CompareRest>
 int behind_common(view a, view b) {
     std::optional<int> const settled = skip_common(a, b, Skip);
     return settled ? *settled : CompareRest(a, b);
 }
 
-// What comes before every rule: empty texts, and lengths.
+/// What comes before every rule: empty texts, and lengths.
 template <rule Rule>
 int compare_by(char16_t const* a, std::size_t a_len, char16_t const* b, std::size_t b_len) {
     if (!a || !b || a_len == 0 || b_len == 0)

@@ -10,8 +10,8 @@ namespace fl::i18n {
 
 namespace {
 
-bool fits_icu(unsigned long n) noexcept {
-    return n <= static_cast<unsigned long>(std::numeric_limits<std::int32_t>::max());
+bool fits_icu(std::size_t n) noexcept {
+    return n <= static_cast<std::size_t>(std::numeric_limits<std::int32_t>::max());
 }
 
 } // namespace
@@ -27,7 +27,7 @@ int strncmp(char16_t const* a, char16_t const* b, unsigned long n) noexcept {
 unsigned long strlen_lim(char16_t const* s, unsigned long limit) noexcept {
     if (!s || limit > std::numeric_limits<unsigned long>::max() / 2)
         return 0;
-    unsigned long size = 0;
+    std::size_t size = 0;
     while (size < limit && s[size] != u'\0')
         ++size;
     return size;

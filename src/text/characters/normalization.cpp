@@ -1,3 +1,5 @@
+// The forms by ICU's normalizers, and past them: most text is in its form already, which is soon seen.
+
 #include "text/characters/normalization.hpp"
 
 #include "text/characters/transform_by_icu.hpp"
@@ -33,15 +35,14 @@ UNormalizer2 const* normalizer(normal_form form) {
     return result;
 }
 
-// Units below it stay as they are in the form, whatever stands around them but behind the last one.
+/// Units below it stay as they are in the form, whatever stands around them but behind the last one.
 char16_t unchanged_limit(normal_form form) noexcept {
     if (form == normal_form::nfc)
         return joining_limit;
     return form == normal_form::nfd ? canonical_limit : compatibility_limit;
 }
 
-unsigned long normalize_by_icu(normal_form form, char16_t* dst, std::size_t capacity,
-                               std::u16string_view src) {
+std::size_t normalize_by_icu(normal_form form, char16_t* dst, std::size_t capacity, std::u16string_view src) {
     UErrorCode status = U_ZERO_ERROR;
     std::int32_t const size = unorm2_normalize(normalizer(form), src.data(), checked_length(src.size()), dst,
                                                checked_length(capacity), &status);
@@ -63,8 +64,8 @@ std::size_t likely_size(normal_form form, std::size_t size) noexcept {
     return std::min(size + std::min(growth, margin), most);
 }
 
-unsigned long normalize(normal_form form, char16_t* dst, unsigned long dst_len, char16_t const* src,
-                        unsigned long src_len) {
+std::size_t normalize(normal_form form, char16_t* dst, std::size_t dst_len, char16_t const* src,
+                      std::size_t src_len) {
     if (!src || src_len == 0)
         return 0;
     std::size_t const capacity = dst ? dst_len : 0;

@@ -19,8 +19,8 @@ std::size_t normalized_prefix(normal_form form, std::u16string_view text) noexce
 std::size_t likely_size(normal_form form, std::size_t size) noexcept;
 
 /// Transforms as <fl/i18n/transform.hpp> says.
-unsigned long normalize(normal_form form, char16_t* dst, unsigned long dst_len, char16_t const* src,
-                        unsigned long src_len);
+std::size_t normalize(normal_form form, char16_t* dst, std::size_t dst_len, char16_t const* src,
+                      std::size_t src_len);
 
 /// The text in the form: itself where it is known to be so already, else a copy in `buffer`. Throws as the
 /// transforms do.

@@ -6,7 +6,7 @@
 namespace fl::i18n::detail {
 namespace {
 
-// The code point at `position`, which moves behind it.
+/// The code point at `position`, which moves behind it.
 template <class I>
 char32_t next_code_point(I& position, I end) noexcept {
     char16_t const lead = *position++;

@@ -11,9 +11,9 @@ namespace fl::i18n::detail {
 
 namespace {
 
-// A run of ASCII at the start of a text is mapped here by the root rules, in a fraction of ICU's time. It
-// ends with a space, or with the text, unless it is empty: the mapping of sigma depends on the letters before
-// it, but never looks beyond a space.
+/// A run of ASCII at the start of a text, to be mapped here by the root rules in a fraction of ICU's time. It
+/// ends with a space, or with the text, unless it is empty: the mapping of sigma depends on the letters
+/// before it, but never looks beyond a space.
 std::size_t ascii_run(char16_t const* src, std::size_t src_len) noexcept {
     std::size_t size = run_below(ascii_limit, {src, src_len});
     if (size < src_len)
@@ -22,15 +22,15 @@ std::size_t ascii_run(char16_t const* src, std::size_t src_len) noexcept {
     return size;
 }
 
-// Whether the mapping goes over its own source: ICU can do that.
+/// Whether the mapping goes over its own source: ICU can do that.
 bool overlaps(char16_t const* dst, std::size_t dst_len, char16_t const* src, std::size_t src_len) noexcept {
     std::less<> const before;
     return before(dst, src + src_len) && before(src, dst + dst_len);
 }
 
 template <char16_t (&MapUnit)(char16_t) noexcept>
-unsigned long map_by_root_rules(case_function& function, char16_t* dst, unsigned long dst_len,
-                                char16_t const* src, unsigned long src_len) {
+std::size_t map_by_root_rules(case_function& function, char16_t* dst, std::size_t dst_len,
+                              char16_t const* src, std::size_t src_len) {
     if (!src || src_len == 0)
         return 0;
     std::size_t const capacity = dst ? dst_len : 0;

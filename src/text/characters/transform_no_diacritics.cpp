@@ -1,3 +1,10 @@
+// transform.hpp: the removal of diacritics.
+//
+// ICU has a transliterator for this. It is made anew from the identifier in each process, which takes about
+// 30 ms, may serve one thread only, and moves the rest of the text at every mark, so that its time grows with
+// the square of the length. Its three steps taken here one by one (NFD, drop what is Mn, NFC) give the same
+// text in linear time.
+
 #include "text/characters/normalization.hpp"
 #include "text/characters/transform_by_icu.hpp"
 #include "text/characters/unit_run.hpp"
@@ -9,11 +16,6 @@
 
 #include <algorithm>
 
-// ICU has a transliterator for this. It is made anew from the identifier in each process, which takes about
-// 30 ms, may serve one thread only, and moves the rest of the text at every mark, so that its time grows with
-// the square of the length. Its three steps taken here one by one (NFD, drop what is Mn, NFC) give the same
-// text in linear time.
-
 namespace fl::i18n::detail {
 
 namespace {
@@ -22,7 +24,7 @@ bool is_mark(char32_t c) noexcept {
     return c >= joining_limit && u_charType(static_cast<UChar32>(c)) == U_NON_SPACING_MARK;
 }
 
-// Shifts what stays of the units to their front, and returns its length.
+/// Shifts what stays of the units to their front, and returns its length.
 std::size_t drop_marks(char16_t* units, std::size_t size) noexcept {
     std::size_t kept = 0;
     for (std::size_t next = 0; next < size;) {
@@ -35,7 +37,7 @@ std::size_t drop_marks(char16_t* units, std::size_t size) noexcept {
     return kept;
 }
 
-// A text without its marks, in two parts: `prefix` is of the source, which had no marks there.
+/// A text without its marks, in two parts: `prefix` is of the source, which had no marks there.
 class plain_text {
 public:
     explicit plain_text(std::u16string_view source) {

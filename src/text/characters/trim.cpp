@@ -8,8 +8,8 @@ namespace fl::i18n {
 
 namespace {
 
-// A set of units. A small one is searched unit by unit; for a large one that would cost the product of two
-// lengths.
+/// A set of units. A small one is searched unit by unit; for a large one that would cost the product of two
+/// lengths.
 class unit_set {
 public:
     explicit unit_set(std::u16string_view units) noexcept : units_(units) {
@@ -29,7 +29,7 @@ private:
 
 enum : unsigned int { front = 1, back = 2 };
 
-// What is left of the text when members of `chars` have gone from its ends.
+/// What is left of the text when members of `chars` have gone from its ends.
 std::u16string_view stripped(std::u16string_view text, std::u16string_view chars,
                              unsigned int ends) noexcept {
     unit_set const set(chars);

@@ -1,3 +1,5 @@
+// A fast search for ordinary text, which hands over to a steady one where the text turns out hostile.
+
 #include "text/characters/unit_search.hpp"
 
 #include "text/characters/unit_run.hpp"
@@ -14,7 +16,7 @@ using view = std::u16string_view;
 
 constexpr std::size_t short_pattern_units = 1024;
 
-// For each prefix of the pattern, the length of its longest proper prefix that is also its suffix.
+/// For each prefix of the pattern, the length of its longest proper prefix that is also its suffix.
 void fill_borders(view pattern, std::size_t* borders) noexcept {
     std::size_t length = 0;
     borders[0] = 0;
@@ -26,7 +28,7 @@ void fill_borders(view pattern, std::size_t* borders) noexcept {
     }
 }
 
-// The search of Knuth, Morris and Pratt: never looks back in the text.
+/// The search of Knuth, Morris and Pratt: never looks back in the text.
 std::size_t find_with_borders(view text, view pattern, std::size_t const* borders) noexcept {
     std::size_t matched = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -51,8 +53,8 @@ std::size_t find_with_borders(view text, view pattern, std::size_t const* border
     return find_with_borders(text, pattern, borders);
 }
 
-// The search on ordinary text, a block of places at a time. A place where the first and the last unit of the
-// pattern both match is a candidate; only there the rest is compared.
+/// The search on ordinary text, a block of places at a time. A place where the first and the last unit of the
+/// pattern both match is a candidate; only there the rest is compared.
 class block_search {
 public:
     block_search(view text, view pattern) noexcept
@@ -60,7 +62,7 @@ public:
           last_(text.data() + pattern.size() - 1),
           pattern_(pattern) {}
 
-    // Whether any of `block_units` places from `at` is a candidate: one loop without an exit.
+    /// Whether any of `block_units` places from `at` is a candidate: one loop without an exit.
     bool has_candidate(std::size_t at) const noexcept {
         char16_t const front = pattern_.front();
         char16_t const back = pattern_.back();
@@ -71,7 +73,7 @@ public:
         return candidates != 0;
     }
 
-    // The first place from `at` on, before `end`, where the pattern stands; `end` if there is none.
+    /// The first place from `at` on, before `end`, where the pattern stands; `end` if there is none.
     std::size_t find_in(std::size_t at, std::size_t end) noexcept {
         char16_t const front = pattern_.front();
         char16_t const back = pattern_.back();
@@ -83,7 +85,7 @@ public:
         return at;
     }
 
-    // Units compared at candidates so far.
+    /// Units compared at candidates so far.
     std::size_t compared() const noexcept { return compared_; }
 
 private:

@@ -2,9 +2,11 @@
 /// UTF-32. The rules are those of <fl/i18n/code_points.hpp>; lengths count units, and sources are not null.
 #pragma once
 
+#include "support/ascii.hpp"
+
 #include <fl/i18n/code_points.hpp>
 
-#include <string>
+#include <cstddef>
 #include <type_traits>
 
 namespace fl::i18n::detail {
@@ -21,8 +23,8 @@ constexpr bool is_trail(char16_t unit) noexcept {
 
 /// The units of UTF-16 that the code points in a range take.
 template <utf32_unit Unit>
-unsigned long utf16_size(Unit const* src, Unit const* end) noexcept {
-    unsigned long size = 0;
+std::size_t utf16_size(Unit const* src, Unit const* end) noexcept {
+    std::size_t size = 0;
     for (; src != end; ++src)
         size += lcctype::is_valid_uchar(static_cast<char32_t>(*src)) ? 1 : 2;
     return size;
@@ -30,15 +32,15 @@ unsigned long utf16_size(Unit const* src, Unit const* end) noexcept {
 
 /// Fills `dst` as far as it goes and returns the size of the whole result.
 template <utf32_unit Unit>
-unsigned long utf16_from_utf32(char16_t* dst, unsigned long dst_len, Unit const* src,
-                               unsigned long src_len) noexcept {
+std::size_t utf16_from_utf32(char16_t* dst, std::size_t dst_len, Unit const* src,
+                             std::size_t src_len) noexcept {
     Unit const* const end = src + src_len;
-    unsigned long written = 0;
+    std::size_t written = 0;
     for (; src != end && dst_len - written >= 2; ++src)
         written += lcctype::make_uchar_from_utf32(static_cast<char32_t>(*src), dst + written);
     if (src != end && written < dst_len) { // room for one unit: a pair leaves its first half there
         char16_t units[2];
-        unsigned long const size = lcctype::make_uchar_from_utf32(static_cast<char32_t>(*src++), units);
+        std::size_t const size = lcctype::make_uchar_from_utf32(static_cast<char32_t>(*src++), units);
         dst[written] = units[0];
         written += size;
     }
@@ -49,17 +51,17 @@ unsigned long utf16_from_utf32(char16_t* dst, unsigned long dst_len, Unit const*
 constexpr char32_t next_scalar(char16_t const*& src, char16_t const* end) noexcept {
     char16_t const unit = *src++;
     if (is_trail(unit))
-        return 0xFFFD;
+        return support::replacement_character;
     if (!is_lead(unit))
         return unit;
     if (src == end || !is_trail(*src))
-        return 0xFFFD;
+        return support::replacement_character;
     return lcctype::make_utf32_from_uchar(unit, *src++);
 }
 
 /// The code points in a range of UTF-16.
-inline unsigned long utf32_size(char16_t const* src, char16_t const* end) noexcept {
-    unsigned long size = 0;
+inline std::size_t utf32_size(char16_t const* src, char16_t const* end) noexcept {
+    std::size_t size = 0;
     for (; src != end; ++size)
         next_scalar(src, end);
     return size;
@@ -67,10 +69,10 @@ inline unsigned long utf32_size(char16_t const* src, char16_t const* end) noexce
 
 /// Fills `dst` as far as it goes and returns the size of the whole result.
 template <utf32_unit Unit>
-unsigned long utf32_from_utf16(Unit* dst, unsigned long dst_len, char16_t const* src,
-                               unsigned long src_len) noexcept {
+std::size_t utf32_from_utf16(Unit* dst, std::size_t dst_len, char16_t const* src,
+                             std::size_t src_len) noexcept {
     char16_t const* const end = src + src_len;
-    unsigned long written = 0;
+    std::size_t written = 0;
     for (; src != end && written < dst_len; ++written)
         dst[written] = static_cast<Unit>(next_scalar(src, end));
     return written + utf32_size(src, end);

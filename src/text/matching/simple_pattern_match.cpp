@@ -25,6 +25,7 @@ regex_excp_id simple_pattern_match::open_first(ustring const& pattern,
     auto compiled = std::make_unique<detail::compiled_pattern>();
     compiled->form = detail::normalization_form(mode);
     detail::text_buffer buffer;
+    // In every mode: a pattern that ICU cannot normalise is refused, whether or not its form would count.
     std::optional<view> const normal_pattern =
         detail::normalize_to(compiled->form.value_or(detail::normal_form::nfc), pattern, buffer);
     if (!normal_pattern)
