@@ -67,7 +67,7 @@ void collectCatalogMaps(upath const& directory, std::vector<upath>& list) {
     for (; !pending.empty(); pending.pop_front())
         for (upath_directory_entry const& entry : upath_directory_iterator(pending.front())) {
             if (entry.filename() == map_file_name)
-                list.emplace_back(filesystem::detail::make_native_form(entry.full_pathname(), 1));
+                list.emplace_back(filesystem::detail::make_native_form(entry.full_pathname()));
             else if (ustring below = real_directory(entry); !below.empty() && visited.insert(below).second)
                 pending.push_back(std::move(below));
         }

@@ -59,7 +59,7 @@ private:
 };
 
 upath existing(ustring const& name) {
-    upath path(filesystem::detail::make_native_form(name, 1));
+    upath path(filesystem::detail::make_native_form(name));
     return filesystem::exists(path) ? path : upath();
 }
 

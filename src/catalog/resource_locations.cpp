@@ -11,8 +11,8 @@
 namespace fl::i18n::detail {
 
 filesystem::upath resource_directory(ustring const& root) {
-    ustring base = root.empty() ? root : filesystem::detail::make_native_form(root, 1);
-    return filesystem::upath(filesystem::detail::concatenate_pathname(std::move(base), u"resources", 1));
+    ustring base = root.empty() ? root : filesystem::detail::make_native_form(root);
+    return filesystem::upath(filesystem::detail::concatenate_pathname(std::move(base), u"resources"));
 }
 
 bool is_directory(filesystem::upath const& path) {
