@@ -1,4 +1,4 @@
-#include "conversion/codecs/encoding_diagnostics.hpp"
+#include "conversion/codecs/ascii_scan.hpp"
 #include "conversion/codecs/sized_conversion.hpp"
 #include "conversion/contract/converter_name.hpp"
 
@@ -7,13 +7,50 @@
 #include <fl/i18n/encoding_name.hpp>
 #include <fl/i18n/string_conversion.hpp>
 
+#include <cstdlib>
+#include <iostream>
+#include <string>
+#include <string_view>
+
 namespace fl::i18n {
 
 namespace {
 
-ustring from_process_encoding(char const* src, unsigned long src_len) {
+/// True if the variable existed, with any value, when the library was loaded. Then texts that rely on the
+/// process encoding without being ASCII are reported, for developers who look for the calls that should name
+/// an encoding.
+bool const encoding_diagnostics = std::getenv("QN_CHAR_ENCODING_DIAG") != nullptr;
+
+template <class Unit>
+bool is_ascii_to_nul(std::basic_string_view<Unit> text) {
+    auto const shown = text.substr(0, text.find(Unit()));
+    return detail::is_ascii_text(shown.data(), shown.size());
+}
+
+/// In one write, so that the lines of two threads do not mix.
+void write_line(std::string_view introduction, std::string_view text) {
+    std::string line(introduction);
+    line.append(text).push_back('\n');
+    std::cout << line << std::flush;
+}
+
+/// If the part of `text` before the first NUL is not ASCII, writes `introduction` and the whole text (UTF-16
+/// as UTF-8, bytes as they are) as one line to the standard output.
+/// @{
+void report_non_ascii(std::string_view introduction, std::u16string_view text) {
+    if (!is_ascii_to_nul(text))
+        write_line(introduction, ustring_to_utf8(text));
+}
+
+void report_non_ascii(std::string_view introduction, std::string_view text) {
+    if (!is_ascii_to_nul(text))
+        write_line(introduction, text);
+}
+/// @}
+
+ustring from_process_encoding(std::string_view text) {
     auto const cnv = lcmgmt::clone_codecvt();
-    return detail::convert_sized(cnv.get(), src, src_len);
+    return detail::convert_sized(cnv.get(), text.data(), text.size());
 }
 
 } // namespace
@@ -21,8 +58,8 @@ ustring from_process_encoding(char const* src, unsigned long src_len) {
 std::string to_string(ustring const& s) {
     if (s.empty())
         return std::string();
-    if (detail::encoding_diagnostics)
-        detail::report_non_ascii("to_string called with non-ASCII input: ", s);
+    if (encoding_diagnostics)
+        report_non_ascii("to_string called with non-ASCII input: ", s);
     auto const cnv = lcmgmt::clone_codecvt();
     return detail::convert_sized(cnv.get(), s.data(), s.size());
 }
@@ -30,18 +67,18 @@ std::string to_string(ustring const& s) {
 ustring to_ustring(std::string const& s) {
     if (s.empty())
         return ustring();
-    if (detail::encoding_diagnostics)
-        detail::report_non_ascii("to_ustring called with non-ASCII string input: ", s);
-    return from_process_encoding(s.data(), s.size());
+    if (encoding_diagnostics)
+        report_non_ascii("to_ustring called with non-ASCII string input: ", s);
+    return from_process_encoding(s);
 }
 
 ustring to_ustring(char const* s) {
     if (!s)
         return ustring();
     std::string_view const text(s);
-    if (detail::encoding_diagnostics)
-        detail::report_non_ascii("to_ustring called with non-ASCII char * input: ", text);
-    return from_process_encoding(text.data(), text.size());
+    if (encoding_diagnostics)
+        report_non_ascii("to_ustring called with non-ASCII char * input: ", text);
+    return from_process_encoding(text);
 }
 
 std::string to_string(ustring const& s, converter<char, char16_t> const& cvt) {

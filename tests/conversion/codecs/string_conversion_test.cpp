@@ -120,7 +120,7 @@ TEST(Utf8Conversion, EqualsIcuOnAnyUnitsInEveryForm) {
 
 // Each conversion runs in a process of its own, which looks for the variable when it starts. ASCII isn't
 // reported, and a NUL ends the check.
-TEST(EncodingDiagnostics, ReportsNonAsciiTextsWhenTheVariableExists) {
+TEST(StringConversion, ReportsNonAsciiTextsWhenTheVariableExists) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     auto const convert = [] {
         std::cout.rdbuf(std::cerr.rdbuf()); // where the test reads

@@ -28,7 +28,7 @@ void expect_result(Tag const& tag, ustring const& source, ustring const& expecte
         return;
     }
     ustring const whole = expected + (is_icus && !source.empty() ? u'\0' : u'#');
-    ASSERT_EQ(detail::transform(nullptr, 99, src.data(), src.size(), tag), size);
+    ASSERT_EQ(detail::transform(nullptr, 99, std::u16string_view(src.data(), src.size()), tag), size);
     for (std::size_t const room : {std::size_t(0), size / 2, size - (size > 0), size, size + 1, size + 3}) {
         ustring dst(room + 4, u'#');
         ASSERT_EQ(detail::transform(dst.data(), room, src.data(), src.size(), tag),
