@@ -1,6 +1,5 @@
 #include "support/raise.hpp"
-#include "text/matching/normalization_choice.hpp"
-#include "text/matching/regex_holder.hpp"
+#include "text/matching/compiled_pattern.hpp"
 
 #include <fl/i18n/pattern_match.hpp>
 #include <fl/i18n/string_conversion.hpp>

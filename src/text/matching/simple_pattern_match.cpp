@@ -1,6 +1,5 @@
+#include "text/matching/compiled_pattern.hpp"
 #include "text/matching/match_limit.hpp"
-#include "text/matching/normalization_choice.hpp"
-#include "text/matching/regex_holder.hpp"
 
 #include <fl/i18n/simple_pattern_match.hpp>
 

@@ -1,6 +1,5 @@
+#include "text/matching/compiled_pattern.hpp"
 #include "text/matching/match_limit.hpp"
-#include "text/matching/normalization_choice.hpp"
-#include "text/matching/regex_holder.hpp"
 
 #include <boost/numeric/conversion/cast.hpp>
 #include <gtest/gtest.h>

@@ -1,13 +1,13 @@
-/// One compiled regular expression of ICU, and the text that it works on.
+/// A compiled pattern, and the texts that it meets, in the form that a character handling mode wants.
 #pragma once
 
 #include "text/characters/normalization.hpp"
 
+#include <fl/i18n/character_handling_mode.hpp>
 #include <fl/i18n/regex_exceptions.hpp>
 
 #include <unicode/utypes.h>
 
-#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string_view>
@@ -52,7 +52,18 @@ void set_text(URegularExpression* expression, std::u16string_view text, UErrorCo
 /// Sets the text and tells whether the expression matches the whole of it; false, too, if ICU fails.
 bool matches(URegularExpression* expression, std::u16string_view text, UErrorCode& status);
 
-/// A length as ICU takes it. Throws `boost::numeric::positive_overflow` for 2^31 and more.
-std::int32_t matcher_length(std::u16string_view text);
+/// The form that a mode brings patterns and texts to, or none. NFC serves a normalisation-insensitive mode
+/// too, and wins over NFD there.
+std::optional<normal_form> normalization_form(character_handling_mode_context const& mode) noexcept;
+
+/// A text in a form: the text itself where it is so already, else a copy in `buffer`. Nothing if ICU fails,
+/// or the result would have 2^31 units or more. Throws `boost::numeric::positive_overflow` for a text of that
+/// size.
+std::optional<std::u16string_view> normalize_to(normal_form form, std::u16string_view text,
+                                                text_buffer& buffer);
+
+/// The same, but without a form it is the text as it stands.
+std::optional<std::u16string_view> normalize_by_form(std::optional<normal_form> form,
+                                                     std::u16string_view text, text_buffer& buffer);
 
 } // namespace fl::i18n::detail
