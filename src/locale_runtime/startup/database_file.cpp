@@ -2,6 +2,7 @@
 
 #include "filesystem/files/install_path_bytes.hpp"
 #include "support/raise.hpp"
+
 #include <fl/filesystem/path.hpp>
 #include <fl/i18n/lc_data_xml.hpp>
 
