@@ -41,7 +41,6 @@
 #include <fl/i18n/expat_loader.hpp>
 #include <fl/i18n/export.hpp>
 #include <fl/i18n/find.hpp>
-#include <fl/i18n/hole_fill_function.hpp>
 #include <fl/i18n/idbase.hpp>
 #include <fl/i18n/java_vm_context.hpp>
 #include <fl/i18n/language_context.hpp>

@@ -3,7 +3,6 @@
 #include "catalog/message_format.hpp"
 #include "support/raise.hpp"
 
-#include <fl/i18n/hole_fill_function.hpp>
 #include <fl/i18n/message_catalog_impl.hpp>
 
 namespace fl::i18n {

@@ -4,7 +4,6 @@
 #include "support/raise.hpp"
 
 #include <fl/i18n/catalog_xml.hpp>
-#include <fl/i18n/hole_fill_function.hpp>
 #include <fl/i18n/message_catalog_impl.hpp>
 
 namespace fl::i18n {

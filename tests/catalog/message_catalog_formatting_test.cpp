@@ -1,7 +1,6 @@
 #include "support/failure.hpp"
 
 #include <fl/i18n/cvt_exceptions.hpp>
-#include <fl/i18n/hole_fill_function.hpp>
 #include <fl/i18n/message_catalog_impl.hpp>
 
 #include <boost/numeric/conversion/cast.hpp>

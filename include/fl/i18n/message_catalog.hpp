@@ -26,14 +26,25 @@
 
 #include <boost/noncopyable.hpp>
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace fl::i18n {
 
 class QnLocale;
-class hole_fill_function; // <fl/i18n/hole_fill_function.hpp>
+/// Fills holes in place: called with the list of all hole values and, for one hole, its custom type (empty if
+/// the name has none) and its number. It may write any element of the list. The reference in the pair is
+/// valid during the call only.
+///
+///     auto const fill = [](std::vector<hole_value>& values, auto const& hole) {
+///         if (hole.first == u"date")                // the custom type, of "{0_date}"
+///             values[hole.second] = fl::ustring(u"2001-02-03");
+///     };
+using hole_fill_function =
+    std::function<void(std::vector<hole_value>&, std::pair<ustring const&, unsigned long const> const&)>;
 
 /// A loaded catalog, read-only, and the home of the process-wide catalog functions.
 ///
@@ -174,9 +185,8 @@ public:
     [[nodiscard]] static ustring GetFormattedMessage(ustring const& message,
                                                      std::vector<hole_value> const& holes);
 
-    /// Fills the holes of `message` with values that a function provides, for which callers include
-    /// <fl/i18n/hole_fill_function.hpp>. `fill` is called once for each hole, in the order of the numbers, on
-    /// a list of `holeCount` empty texts. Its exceptions pass through.
+    /// Fills the holes of `message` with values that a function provides: `fill` is called once for each
+    /// hole, in the order of the numbers, on a list of `holeCount` empty texts. Its exceptions pass through.
     ///
     /// A message with named holes takes no values by this form; it comes back unformatted if `holeCount` is
     /// 0. The list is made first: an absurd `holeCount` throws `std::length_error` or `std::bad_alloc`.
