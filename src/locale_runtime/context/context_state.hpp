@@ -9,9 +9,9 @@
 ///     get_context_state().database().get_locale_name("iw");      // "he_IL"
 #pragma once
 
+#include "locale_runtime/context/category_names.hpp"
 #include "locale_runtime/context/event_log.hpp"
 #include "locale_runtime/context/locale_slots.hpp"
-#include "locale_runtime/context/name_tables.hpp"
 #include "locale_runtime/context/published.hpp"
 #include "support/mutex.hpp"
 
@@ -92,7 +92,7 @@ struct context_state {
     QnLocaleCtx front{*this}; // what callers of the library see of all this
     event_log log;
     LcStatusCtx status;
-    name_tables names; // filled before the context is published
+    category_names names; // filled before the context is published
 
     mutable support::mutex mutex; // orders start-up and all changes of the global locale
     published_databases databases FL_GUARDED_BY(mutex);

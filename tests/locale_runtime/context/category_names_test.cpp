@@ -1,11 +1,11 @@
-#include "locale_runtime/context/name_tables.hpp"
+#include "locale_runtime/context/category_names.hpp"
 
 #include <gtest/gtest.h>
 
 namespace fl::i18n::lcmgmt {
 namespace {
 
-TEST(NameTables, AnswerWhateverTheCaseOfAName) {
+TEST(CategoryNames, AnswerWhateverTheCaseOfAName) {
     struct row {
         int value;
         char const* category;
@@ -16,7 +16,7 @@ TEST(NameTables, AnswerWhateverTheCaseOfAName) {
         {2, "time", "terminputencoding"}, {3, "Numeric", "termOUTPUTencoding"},
         {4, "monetary", "papersize"},     {5, "messages", "unittype"},
     };
-    name_tables names;
+    category_names names;
     EXPECT_THROW(names.category("ctype"), QnLcDataNotFound) << "not filled yet";
     names.fill();
     for (auto const& [value, category, optional_data] : rows) {

@@ -12,7 +12,7 @@ namespace fl::i18n::lcmgmt {
 
 /// Thread-compatible: filled once, before others know it. Each question throws `QnLcDataNotFound` for what
 /// the tables don't hold, which is everything until they are filled; ASCII case of a name is ignored.
-class name_tables {
+class category_names {
 public:
     void fill();
 

@@ -1,4 +1,4 @@
-#include "locale_runtime/context/name_tables.hpp"
+#include "locale_runtime/context/category_names.hpp"
 
 #include "support/ascii.hpp"
 #include "support/raise.hpp"
@@ -17,7 +17,7 @@ auto const& find_or_raise(Map const& map, Key const& key) {
 
 } // namespace
 
-void name_tables::fill() {
+void category_names::fill() {
     categories_ = {
         {"ctype", QnLocale::ctype},     {"collate", QnLocale::collate},   {"time", QnLocale::time},
         {"numeric", QnLocale::numeric}, {"monetary", QnLocale::monetary}, {"messages", QnLocale::messages},
@@ -34,15 +34,15 @@ void name_tables::fill() {
     };
 }
 
-QnLocale::LcCategory name_tables::category(std::string_view name) const {
+QnLocale::LcCategory category_names::category(std::string_view name) const {
     return find_or_raise(categories_, support::ascii_lower_copy(name));
 }
 
-std::string const& name_tables::category_name(QnLocale::LcCategory category) const {
+std::string const& category_names::category_name(QnLocale::LcCategory category) const {
     return find_or_raise(category_names_, category);
 }
 
-QnLcOptDataCtx::LcOptDataType name_tables::optional_data(std::string_view name) const {
+QnLcOptDataCtx::LcOptDataType category_names::optional_data(std::string_view name) const {
     return find_or_raise(optional_data_, support::ascii_lower_copy(name));
 }
 
