@@ -93,6 +93,7 @@ private:
     struct category_record;
     using record_pointer = std::shared_ptr<category_record const>;
 
+    static QnLocaleImpl const* of_this_class(QnLocale const& locale) noexcept;
     static record_pointer make_record(std::string const& name, std::string const& modifier);
 
     void replace(LcCategory category, std::string const& name);

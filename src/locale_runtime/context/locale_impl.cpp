@@ -7,6 +7,7 @@
 #include <fl/i18n/locale_name.hpp>
 
 #include <algorithm>
+#include <typeinfo>
 #include <utility>
 
 namespace fl::i18n {
@@ -67,14 +68,21 @@ QnLocaleImpl::QnLocaleImpl(std::string const& name)
         encoding_ = text_or_empty(database().get_default_encoding_name(resolved));
 }
 
+/// Null for a locale of another class, one derived from this included: that may answer otherwise.
+QnLocaleImpl const* QnLocaleImpl::of_this_class(QnLocale const& locale) noexcept {
+    return typeid(locale) == typeid(QnLocaleImpl) ? static_cast<QnLocaleImpl const*>(&locale) : nullptr;
+}
+
 QnLocaleImpl::QnLocaleImpl(QnLocale const& other)
     : QnLocaleImpl(lcmgmt::get_context_state().database_source()) {
-    if (auto const* const same_class = dynamic_cast<QnLocaleImpl const*>(&other)) {
-        common_ = same_class->common_;
-        categories_ = same_class->categories_;
+    if (QnLocaleImpl const* const same = of_this_class(other)) {
+        common_ = same->common_;
+        categories_ = same->categories_;
     } else {
-        for (std::size_t i = 0; i < categories_.size(); ++i)
-            categories_[i] = make_record(other.shortName(category_at(i)), other.modifier(category_at(i)));
+        for (std::size_t i = 0; i < categories_.size(); ++i) {
+            std::string const name = other.shortName(category_at(i));
+            categories_[i] = make_record(name, other.modifier(category_at(i)));
+        }
     }
     encoding_ = other.encoding();
     terminal_encoding_ = std::get<std::string>(other.getLcOptData(QnLcOptDataCtx::terminal_encoding));
@@ -87,21 +95,19 @@ QnLocaleImpl::~QnLocaleImpl() = default;
 
 QnLocaleImpl::record_pointer QnLocaleImpl::make_record(std::string const& name, std::string const& modifier) {
     // What nearly every locale has for its numbers or messages is made once.
-    constinit static support::once_value<record_pointer> posix;
-    constinit static support::once_value<record_pointer> english;
-    auto const make = [&]() -> record_pointer {
-        auto record = std::make_shared<category_record>();
-        record->short_name = name;
-        record->modifier = modifier;
-        if (!lcmgmt::decompose_language_tag(record->parts, lcmgmt::extract_short_name(name)))
-            record->parts = {}; // it holds what was read before the fault
+    constinit static support::once_value<category_record> posix;
+    constinit static support::once_value<category_record> english;
+    auto const make = [&] {
+        category_record record{name, modifier, {}};
+        if (!lcmgmt::decompose_language_tag(record.parts, lcmgmt::extract_short_name(name)))
+            record.parts = {}; // it holds what was read before the fault
         return record;
     };
     if (modifier.empty() && name == posix_locale)
-        return posix.get(make);
+        return record_pointer(record_pointer(), &posix.get(make));
     if (modifier.empty() && name == english_locale)
-        return english.get(make);
-    return make();
+        return record_pointer(record_pointer(), &english.get(make));
+    return std::make_shared<category_record const>(make());
 }
 
 void QnLocaleImpl::setLcName(std::string const& name, std::string const& modifier) {
@@ -127,7 +133,7 @@ void QnLocaleImpl::copy(LcCategory category, QnLocale const& source) {
     std::string const modifier = source.modifier(category);
     at(category);
     check_name(name);
-    auto const* const same_class = dynamic_cast<QnLocaleImpl const*>(&source);
+    auto const* const same_class = of_this_class(source);
     record_pointer const known = same_class ? same_class->pointer_at(category) : nullptr;
     store(known ? known : make_record(name, modifier), category);
 }
@@ -209,7 +215,10 @@ QnLocaleImpl::record_pointer const& QnLocaleImpl::pointer_at(LcCategory category
 }
 
 bool QnLocaleImpl::operator==(QnLocale const& other) const {
+    QnLocaleImpl const* const same = of_this_class(other);
     for (std::size_t i = 0; i < categories_.size(); ++i) {
+        if (same && same->pointer_at(category_at(i)) == pointer_at(category_at(i)))
+            continue;
         category_record const& record = at(category_at(i));
         if (other.shortName(category_at(i)) != record.short_name ||
             other.modifier(category_at(i)) != record.modifier)
