@@ -1,6 +1,5 @@
 #include "conversion/codecs/icu_conversion.hpp"
 
-#include <fl/i18n/conversion_step.hpp>
 #include <fl/i18n/stream_codecvt.hpp>
 
 #include <unicode/ucnv.h>
@@ -37,7 +36,7 @@ stream_codecvt_ustring_to_string::~stream_codecvt_ustring_to_string() = default;
 bool stream_codecvt_ustring_to_string::do_convert(char** dst, char* dst_limit, char16_t const** src,
                                                   char16_t const* src_limit, bool flush) const {
     UErrorCode status = U_ZERO_ERROR;
-    lcctype::stream_conversion_from_utf16(context_->handle(), dst, dst_limit, src, src_limit, flush, status);
+    ucnv_fromUnicode(context_->handle(), dst, dst_limit, src, src_limit, nullptr, flush, &status);
     return needs_room(*this, status);
 }
 
@@ -61,7 +60,7 @@ stream_codecvt_string_to_ustring::~stream_codecvt_string_to_ustring() = default;
 bool stream_codecvt_string_to_ustring::do_convert(char16_t** dst, char16_t* dst_limit, char const** src,
                                                   char const* src_limit, bool flush) const {
     UErrorCode status = U_ZERO_ERROR;
-    lcctype::stream_conversion_to_utf16(context_->handle(), dst, dst_limit, src, src_limit, flush, status);
+    ucnv_toUnicode(context_->handle(), dst, dst_limit, src, src_limit, nullptr, flush, &status);
     return needs_room(*this, status);
 }
 
