@@ -18,7 +18,7 @@ namespace {
 
 icu_zone owned(icu::TimeZone const* zone) {
     if (!zone)
-        throw std::bad_alloc();
+        support::raise(std::bad_alloc());
     return icu_zone(zone);
 }
 

@@ -53,9 +53,7 @@ protected:
                       std::vector<ustring> const& arguments);
 
 private:
-    /// Each class overrides this out of line, so that one object file owns its virtual table and its type
-    /// information.
-    virtual void anchor() const;
+    virtual void anchor() const; // keeps the virtual table and the type information in one object file
 
     std::string id_;
     std::int32_t code_;

@@ -37,8 +37,7 @@ protected:
     CtypeExceptionBase(std::string message, std::int32_t kind, std::int32_t error_code);
 
 private:
-    /// Anchors the virtual table and the type information of each class in one object file.
-    virtual void anchor() const;
+    virtual void anchor() const; // keeps the virtual table and the type information in one object file
 
     std::string message_;
     std::int32_t kind_;

@@ -35,8 +35,7 @@ protected:
     CvtExceptionBase(std::string message, int kind);
 
 private:
-    /// Anchors the virtual table and the type information of each class in one object file.
-    virtual void anchor() const;
+    virtual void anchor() const; // keeps the virtual table and the type information in one object file
 
     std::string message_;
     int kind_;

@@ -42,9 +42,9 @@ public:
     char const* what() const noexcept override;
 
     /// "fl:i18n:date_time:" and the name of the class.
-    std::string const& error_id() const noexcept { return id_; }
+    [[nodiscard]] std::string const& error_id() const noexcept { return id_; }
     /// The number of the class within the family.
-    int code() const noexcept { return code_; }
+    [[nodiscard]] int code() const noexcept { return code_; }
 
 protected:
     date_time_exception_base(std::string error_id, int code);

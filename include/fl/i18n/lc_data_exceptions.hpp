@@ -30,12 +30,12 @@ public:
     char const* what() const noexcept override;
 
     /// The error id, "fl:i18n:" and the name of the class.
-    std::string const& error_id() const noexcept { return id_; }
+    [[nodiscard]] std::string const& error_id() const noexcept { return id_; }
     /// The number of the class within the family: 2 to 5.
-    std::int32_t code() const noexcept { return code_; }
+    [[nodiscard]] std::int32_t code() const noexcept { return code_; }
     /// An English sentence, with the path or the place of the error. It is what start-up keeps as its
     /// warning.
-    std::string const& message() const noexcept { return message_; }
+    [[nodiscard]] std::string const& message() const noexcept { return message_; }
 
 protected:
     LcRscExceptionBase(std::string error_id, std::int32_t code, std::string message);

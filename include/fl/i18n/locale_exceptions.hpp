@@ -28,21 +28,19 @@ public:
     char const* what() const noexcept override;
 
     /// The error id, "fl:i18n:" and the name of the class.
-    std::string const& error_id() const noexcept { return id_; }
+    [[nodiscard]] std::string const& error_id() const noexcept { return id_; }
     /// The number of the class within the family: 1, 2 or 4.
-    std::int32_t code() const noexcept { return code_; }
+    [[nodiscard]] std::int32_t code() const noexcept { return code_; }
     /// An English sentence without the argument.
-    std::string const& message() const noexcept { return message_; }
+    [[nodiscard]] std::string const& message() const noexcept { return message_; }
     /// The text that was refused, byte by byte as the caller gave it, or empty.
-    std::string const& argument() const noexcept { return argument_; }
+    [[nodiscard]] std::string const& argument() const noexcept { return argument_; }
 
 protected:
     QnLcMgmtExceptionBase(std::string id, std::int32_t code, std::string message, std::string argument);
 
 private:
-    // Overridden out of line by each class of the family: that anchors its virtual table and its type
-    // information, by which handlers in other modules know it, in one object file.
-    virtual void anchor() const;
+    virtual void anchor() const; // keeps the virtual table and the type information in one object file
 
     std::string id_;
     std::int32_t code_;

@@ -43,8 +43,7 @@ protected:
     RegexExceptionBase(std::string message, regex_excp_id kind);
 
 private:
-    /// Anchors the virtual table and the type information of each class in one object file.
-    virtual void anchor() const;
+    virtual void anchor() const; // keeps the virtual table and the type information in one object file
 
     std::string message_;
     regex_excp_id kind_;

@@ -49,7 +49,7 @@ public:
     /// `regex_invalid_object` on an object that isn't open, `regex_failed_match_operation` when ICU gives the
     /// match up, `regex_failed_normalization` when it cannot normalise the text. The last is also the answer
     /// for an empty text in a mode with normalisation, where `pattern_match` asks the expression.
-    [[nodiscard]] bool match(ustring const& text, regex_excp_id& status) const;
+    bool match(ustring const& text, regex_excp_id& status) const;
 
 private:
     friend struct detail::matcher_access;

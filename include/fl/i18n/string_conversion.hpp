@@ -129,7 +129,7 @@ namespace lcmgmt {
 /// thread, and with the library: do not close it, and do not use it after a change of the global locale, when
 /// the next call returns another one. Whatever state or call-back is set on it, the thread's next caller
 /// finds.
-[[nodiscard]] FL_I18N_EXPORT UConverter* get_cached_codecvt();
+FL_I18N_EXPORT UConverter* get_cached_codecvt();
 
 } // namespace lcmgmt
 } // namespace fl::i18n

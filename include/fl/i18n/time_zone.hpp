@@ -36,11 +36,11 @@ public:
     char const* what() const noexcept override;
 
     /// "fl::i18n::timezone::" and the name of the class.
-    std::string const& error_id() const noexcept { return id_; }
+    [[nodiscard]] std::string const& error_id() const noexcept { return id_; }
     /// The number of the class within the family.
-    int code() const noexcept { return code_; }
+    [[nodiscard]] int code() const noexcept { return code_; }
     /// An English sentence.
-    std::string const& message() const noexcept { return message_; }
+    [[nodiscard]] std::string const& message() const noexcept { return message_; }
 
 protected:
     timezone_exception_base(std::string error_id, int code, std::string message);
