@@ -34,7 +34,7 @@ bool contains(location_list const& list, upath const& path, bool additional) {
 
 std::string ascii_stem(upath_directory_entry const& entry) {
     return detail::to_ascii(
-        filesystem::detail::extract_stem(filesystem::detail::make_native_form(entry.filename(), 1)));
+        filesystem::detail::extract_stem(filesystem::detail::make_native_form(entry.filename())));
 }
 
 bool is_directory_itself(upath_directory_entry const& entry) {

@@ -42,7 +42,8 @@ invalid_data_error::invalid_data_error()
 void invalid_data_error::anchor() const {}
 
 ustring to_ustring(ptime const& time, std::string const& format) {
-    return format.empty() ? ustring() : written(time, locale_for<output_facet>(format, format.c_str()));
+    return format.empty() ? ustring()
+                          : written(time, detail::locale_for<output_facet>(format, format.c_str()));
 }
 
 // What Boost writes by itself is ASCII, and widened as it stands; a format string is the caller's, and what
@@ -56,7 +57,7 @@ ustring to_ustring(ptime const& time, DateFormat format) {
     case DATE_FORMAT_ISO_EXTENDED:
         return support::widened(boost::posix_time::to_iso_extended_string(time));
     case DATE_FORMAT_UTC_STAMP:
-        return written(time, utc_stamp_locale<output_facet>());
+        return written(time, detail::utc_stamp_locale<output_facet>());
     }
     return ustring();
 }

@@ -22,13 +22,14 @@ constexpr std::size_t utc_stamp_separator = 10; ///< where the "T" stands
 constexpr ptime no_time(boost::posix_time::not_a_date_time);
 
 std::locale const& iso_locale() {
-    thread_local std::locale const locale = make_locale<input_facet>(input_facet::iso_time_format_specifier);
+    thread_local std::locale const locale =
+        detail::make_locale<input_facet>(input_facet::iso_time_format_specifier);
     return locale;
 }
 
 std::locale const& iso_extended_locale() {
     thread_local std::locale const locale =
-        make_locale<input_facet>(input_facet::iso_time_format_extended_specifier);
+        detail::make_locale<input_facet>(input_facet::iso_time_format_extended_specifier);
     return locale;
 }
 
@@ -52,7 +53,7 @@ private:
 ptime read_utc_stamp(ustring const& text) {
     if (text.size() >= utc_stamp_separator + 2 && text[utc_stamp_separator] != u'T')
         return no_time;
-    reader from(detail::to_ascii(text), utc_stamp_locale<input_facet>());
+    reader from(detail::to_ascii(text), detail::utc_stamp_locale<input_facet>());
     ptime const time = from.read();
     return from.at_end() ? time : no_time;
 }
@@ -96,7 +97,8 @@ std::string without_stray_sign(std::string text) {
 ptime to_ptime(ustring const& text, std::string const& format) {
     if (text.empty() || format.empty())
         return no_time;
-    return reader(without_stray_sign(detail::to_ascii(text)), locale_for<input_facet>(format, format)).read();
+    return reader(without_stray_sign(detail::to_ascii(text)), detail::locale_for<input_facet>(format, format))
+        .read();
 }
 
 ptime to_ptime(ustring const& text, DateFormat format) {

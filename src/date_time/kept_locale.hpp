@@ -9,7 +9,7 @@
 #include <locale>
 #include <string>
 
-namespace fl::i18n::date_time {
+namespace fl::i18n::detail {
 
 inline constexpr char utc_stamp_format[] = "%Y-%m-%dT%H:%M:%SZ";
 
@@ -38,4 +38,4 @@ std::locale const& locale_for(std::string const& key, Format const& format) {
     return last_locale;
 }
 
-} // namespace fl::i18n::date_time
+} // namespace fl::i18n::detail

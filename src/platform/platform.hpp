@@ -1,6 +1,6 @@
-/// What differs between operating systems, behind one small interface: one file per system implements it, the
-/// build picks the file, and tests put a fake in its place. No other folder asks which system this is. What
-/// takes types of POSIX is not here but in posix.hpp.
+/// What differs between operating systems, behind one small interface: platform_<system>.cpp implements it,
+/// the build picks that file, and tests put a fake in its place. No other folder asks which system this is.
+/// What takes types of POSIX is not here but in posix.hpp.
 #pragma once
 
 #include <cstdint>

@@ -44,13 +44,13 @@ constexpr Unit to_ascii_upper(Unit c) noexcept {
 
 inline std::string ascii_lower_copy(std::string_view text) {
     std::string result(text);
-    std::transform(text.begin(), text.end(), result.begin(), to_ascii_lower<char>);
+    std::transform(text.begin(), text.end(), result.begin(), [](char c) { return to_ascii_lower(c); });
     return result;
 }
 
 inline std::string ascii_upper_copy(std::string_view text) {
     std::string result(text);
-    std::transform(text.begin(), text.end(), result.begin(), to_ascii_upper<char>);
+    std::transform(text.begin(), text.end(), result.begin(), [](char c) { return to_ascii_upper(c); });
     return result;
 }
 

@@ -1,5 +1,3 @@
-// charset_detection.hpp: the rules and the guesses. All of it is a function of the bytes.
-
 #include "conversion/codecs/charset_guess.hpp"
 
 #include "conversion/codecs/ascii_scan.hpp"

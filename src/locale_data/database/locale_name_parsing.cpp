@@ -120,11 +120,11 @@ bool decompose_language_tag(locale_name_element& element, std::string_view tag) 
     return end == std::string_view::npos || read_subtags(element, tag.substr(end + 1));
 }
 
-/// name = tag ["." encoding] *("@" modifier)
 std::string_view extract_short_name(std::string_view name) noexcept {
     return name.substr(0, name.find_first_of(".@"));
 }
 
+/// name = tag ["." encoding] *("@" modifier)
 locale_name_element decompose_locale_name(std::string_view name) {
     locale_name_element element;
     if (std::string_view const modifiers = cut_behind(name, '@'); modifiers.data())

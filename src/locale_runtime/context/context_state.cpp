@@ -15,8 +15,7 @@ constexpr char const* built_in_locale = "en_US_POSIX";
 constexpr char const* built_in_encoding = "UTF-8";
 constexpr char const* title = "QnLocaleCtx::initQnLcCtx";
 
-/// A record with the environment of the library in it. The C library's `getenv` reads it: the library's own
-/// converts by the current locale, which there is none of yet.
+/// A record with the environment of the library in it, in the bytes that it has there.
 locale_context read_environment() {
     locale_context record;
     for (char const* const name : {"QNLOCALE_LCDATA_PATH", "QNLOCALE_LCDATA_FILENAME",

@@ -1,9 +1,9 @@
 /// Everything that the process-wide context holds.
 ///
 /// It is built from the built-in tables at first use, and never destroyed. What readers ask for all the time,
-/// the database in force and the three locales, they load from atomic pointers. All changes are made under
-/// one mutex, which is not recursive: nothing that runs under it may call what takes it. The log, the status
-/// and the database path have leaf mutexes of their own.
+/// the database in force, the current and the system locale, they load from atomic pointers. All changes are
+/// made under one mutex, which is not recursive: nothing that runs under it may call what takes it. The log,
+/// the status and the database path have leaf mutexes of their own.
 ///
 ///     get_context_state().log.add("title", "text");
 ///     get_context_state().database().get_locale_name("iw");      // "he_IL"
@@ -45,7 +45,7 @@ struct context_state {
     /// One with the built-in locale, as far as that can be set up.
     static std::unique_ptr<context_state> make();
 
-    // What the first four ask for is loaded from an atomic pointer, which takes no mutex.
+    // The first five take no mutex: what they ask for is behind an atomic pointer, or never changes.
 
     /// The database in force. Start-up replaces the built-in one by one that the XML database has corrected;
     /// the former one stays as it is, for those who are reading it.

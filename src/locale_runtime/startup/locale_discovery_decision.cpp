@@ -59,8 +59,8 @@ std::string stem_of(std::string const& name) {
 // The following call `setlocale` for their candidates and leave the C library in "C" if one was taken. The
 // result is empty where none is, and for an empty locale, of which the C library isn't asked.
 
-/// A name without an encoding, or the one that the system needs one for.
-std::string tested_xpg_name(locale_database const& database, std::string const& locale) {
+/// A name without an encoding; with UTF-8 where the system has the locale only so.
+std::string tested_messages_name(locale_database const& database, std::string const& locale) {
     std::string name = candidate(database, locale);
     if (name.empty())
         return name;
@@ -70,8 +70,8 @@ std::string tested_xpg_name(locale_database const& database, std::string const& 
 }
 
 /// A name with `encoding` if there is one, otherwise with "UTF-8" or without an encoding.
-std::string tested_xpg_name(locale_database const& database, std::string const& locale,
-                            std::string const& encoding) {
+std::string tested_locale_name(locale_database const& database, std::string const& locale,
+                               std::string const& encoding) {
     std::string name = candidate(database, locale);
     std::string const stem = stem_of(name);
     if (name.empty() || name == stem + "." + encoding)
@@ -171,13 +171,14 @@ bool decide_locale(locale_context& found, locale_database const& database) {
     found.Encoding = utf8;
     if (base.name.empty()) {
         decide_categories(found, {"en_US_POSIX", ""}, messages);
-        decide_c_setting(found, tested_xpg_name(database, messages));
+        decide_c_setting(found, tested_messages_name(database, messages));
         return false;
     }
     decide_categories(found, base, messages);
-    std::string const all = tested_xpg_name(database, base.name, found.Encoding);
+    std::string const all = tested_locale_name(database, base.name, found.Encoding);
     // With one locale for all, messages follow it and have no name of their own.
-    decide_xpg_names(found, all, messages == base.name ? std::string() : tested_xpg_name(database, messages));
+    decide_xpg_names(found, all,
+                     messages == base.name ? std::string() : tested_messages_name(database, messages));
     return true;
 }
 
