@@ -2,7 +2,7 @@ cmake_minimum_required(VERSION 3.25)
 
 # The layers are what their CMakeLists.txt say (LAYERS, a file that the build writes), and the sources keep to it:
 # each folder of src/ is a layer and a leaf; each public header belongs to one layer; includes point downwards, and
-# to another layer's private headers only where it offers them.
+# to another layer's private headers only where it offers them, which it does to some purpose.
 include("${LAYERS}")
 
 # The layers that stand below each one, itself excepted.
@@ -28,6 +28,14 @@ foreach(layer IN LISTS layers)
   endforeach()
 endforeach()
 
+foreach(layer IN LISTS layers)
+  foreach(other IN LISTS layers)
+    if(other MATCHES "^${layer}/")
+      message(SEND_ERROR "${layer} is a layer and holds another one, ${other}.")
+    endif()
+  endforeach()
+endforeach()
+
 # layer_of(FILE RESULT): the layer of a private or public header, or of a source, named as an include names it.
 function(layer_of file result)
   if(file MATCHES "^fl/")
@@ -44,9 +52,9 @@ endfunction()
 set(checked 0)
 function(check_includes path file)
   layer_of(${file} layer)
-  file(STRINGS "${path}/${file}" includes REGEX "^#include (\"|<fl/)")
+  file(STRINGS "${path}/${file}" includes REGEX "^ *# *include *(\"|<fl/)")
   foreach(include IN LISTS includes)
-    string(REGEX REPLACE "^#include .([^\">]+).*" "\\1" header "${include}")
+    string(REGEX REPLACE "^ *# *include *.([^\">]+).*" "\\1" header "${include}")
     math(EXPR checked "${checked} + 1")
     layer_of(${header} target)
     if(target STREQUAL layer)
@@ -57,8 +65,10 @@ function(check_includes path file)
     elseif(NOT header MATCHES "^fl/" AND NOT header IN_LIST offered)
       message(SEND_ERROR "${file} includes ${header}, which ${target} does not offer.")
     endif()
+    list(APPEND taken ${header})
   endforeach()
   set(checked ${checked} PARENT_SCOPE)
+  set(taken ${taken} PARENT_SCOPE)
 endfunction()
 
 file(GLOB_RECURSE files RELATIVE "${SOURCE_DIR}/src" "${SOURCE_DIR}/src/*.[ch]pp")
@@ -68,6 +78,11 @@ endforeach()
 file(GLOB_RECURSE files RELATIVE "${SOURCE_DIR}/include" "${SOURCE_DIR}/include/fl/*/*.hpp")
 foreach(file IN LISTS files)
   check_includes("${SOURCE_DIR}/include" ${file})
+endforeach()
+foreach(header IN LISTS offered)
+  if(NOT header IN_LIST taken)
+    message(SEND_ERROR "${header} is offered, and no other layer includes it.")
+  endif()
 endforeach()
 if(checked LESS 400)
   message(FATAL_ERROR "Only ${checked} includes were seen: the check looks in the wrong place.")
