@@ -50,5 +50,4 @@ TEST(DateTime, UnixTimeIsCutOffTowardsZero) {
     EXPECT_EQ(-9223372036854, ptime_to_time_t(boost::posix_time::neg_infin));
     EXPECT_EQ("fl:i18n:date_time:invalid_data_error",
               fl::testing::failure<invalid_data_error>(ptime_to_time_t, boost::posix_time::not_a_date_time));
-    EXPECT_EQ(1, invalid_data_error().code());
 }

@@ -19,10 +19,7 @@ using fl::testing::failure;
 
 TEST(Boundary, ExceptionsAreCaughtByTheirClass) {
     fl::ustring const two_holes = u"{0} of {1}";
-    struct {
-        std::string expected;
-        std::string actual;
-    } const rows[] = {
+    std::pair<char const*, std::string> const rows[] = {
         {"Bad Catalog ID", failure<CatalogID::badCatalogIDException>([] { CatalogID const id("a"); })},
         {"Bad Message ID", failure<MessageID::badMessageIDException>([] { MessageID const id("a:b"); })},
         {"Incorrect Message Root Set", failure<MessageCatalog::MessageCatalogIncorrectRoot>([] {
@@ -44,8 +41,41 @@ TEST(Boundary, ExceptionsAreCaughtByTheirClass) {
         {"fl:filesystem:PathNotFound",
          failure<fl::filesystem::PathNotFound>([] { fl::filesystem::canonical(u"/no/such/file", u""); })},
     };
-    for (auto const& row : rows)
-        EXPECT_EQ(row.expected, row.actual);
+    for (auto const& [expected, actual] : rows)
+        EXPECT_EQ(expected, actual);
+}
+
+TEST(Boundary, ExceptionsSayWhatHasFailed) {
+    auto const kind = [](auto const& e) { return std::to_string(e.kind()) + " " + e.what(); };
+    auto const code = [](auto const& e) { return std::to_string(e.code()) + " " + e.message(); };
+    std::pair<char const*, std::string> const rows[] = {
+        {"0 Data size too large.", kind(CtypeSizeTooLarge())},
+        {"1 Transformation failure.", kind(CtypeTransformFailure(7))},
+        {"2 String comparison failure.", kind(CtypeStrCompFailure(7))},
+        {"3 Invalid character error.", kind(foundation::ustring::CtypeInvalidCharacter())},
+        {"4 Invalid argument error.", kind(CtypeInvalidArgument())},
+        {"2 fl:i18n:RegexInvalidArgument", kind(RegexInvalidArgument())},
+        {"3 fl:i18n:RegexInvalidObject", kind(RegexInvalidObject())},
+        {"4 fl:i18n:RegexFailedObjectCreation", kind(RegexFailedObjectCreation())},
+        {"5 fl:i18n:RegexFailedMatchOperation", kind(RegexFailedMatchOperation())},
+        {"6 fl:i18n:RegexFailedNormalization", kind(RegexFailedNormalization())},
+        {"1 fl:i18n:CvtInvalidArgument", kind(CvtInvalidArgument())},
+        {"2 Invalid encoding name specified.", kind(CvtInvalidEncodingName("x"))},
+        {"3 fl:i18n:CvtCallBackSettingFailure", kind(CvtCallBackSettingFailure())},
+        {"4 fl:i18n:CvtNonSupportedMode", kind(CvtNonSupportedMode())},
+        {"5 Invalid character code sequence detected.", kind(CvtInvalidCharacter())},
+        {"6 Data size too large for character code conversion.", kind(CvtSizeTooLarge())},
+        {"7 Failed to convert character code.", kind(CvtConversionFailure())},
+        {"1 Invalid locale name.", code(QnLcInvLcName("x"))},
+        {"1 Invalid time data.", code(time_zone::invalid_time_data())},
+        {"2 Invalid timezone id.", code(time_zone::invalid_timezone_id())},
+        {"1", std::to_string(date_time::invalid_data_error().code())},
+        {"Failed to create ICU Collator. Following error code received: 7",
+         NaturalSortCollatorException("7").what()},
+        {"ICU Collator's compare operation failed. Following error code received: 7",
+         NaturalSortCompareException("7").what()}};
+    for (auto const& [expected, actual] : rows)
+        EXPECT_EQ(expected, actual);
 }
 
 TEST(Boundary, ExceptionsTravelInExceptionPointers) {

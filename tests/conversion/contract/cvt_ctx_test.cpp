@@ -1,6 +1,3 @@
-#include "support/failure.hpp"
-#include "support/raise.hpp"
-
 #include <fl/i18n/cvt_ctx.hpp>
 #include <fl/i18n/cvt_exceptions.hpp>
 
@@ -87,18 +84,4 @@ TEST(CvtCtx, ReopeningForgetsModesAndKeepsTheNamesIfItSucceeds) {
     EXPECT_THROW(gone.change_from_call_back(stop_call_back, ""), CvtCallBackSettingFailure);
     EXPECT_THROW(gone.change_to_call_back(stop_call_back), CvtCallBackSettingFailure);
     EXPECT_EQ(gone.get_encoding(), "");
-}
-
-TEST(CvtException, EachClassHasItsKindAndText) {
-    auto const shown = []<class E>(E const& exception) {
-        auto const text = fl::testing::failure<E>([&] { fl::support::raise(exception); });
-        return std::to_string(exception.kind()) + ' ' + text;
-    };
-    EXPECT_EQ(shown(CvtInvalidArgument()), "1 fl:i18n:CvtInvalidArgument");
-    EXPECT_EQ(shown(CvtInvalidEncodingName("x")), "2 Invalid encoding name specified.");
-    EXPECT_EQ(shown(CvtCallBackSettingFailure()), "3 fl:i18n:CvtCallBackSettingFailure");
-    EXPECT_EQ(shown(CvtNonSupportedMode()), "4 fl:i18n:CvtNonSupportedMode");
-    EXPECT_EQ(shown(CvtInvalidCharacter()), "5 Invalid character code sequence detected.");
-    EXPECT_EQ(shown(CvtSizeTooLarge()), "6 Data size too large for character code conversion.");
-    EXPECT_EQ(shown(CvtConversionFailure()), "7 Failed to convert character code.");
 }

@@ -76,8 +76,6 @@ static std::string refused(auto const& call) {
     try {
         call();
     } catch (QnLcInvLcName const& e) {
-        EXPECT_STREQ(e.what(), "fl:i18n:QnLcInvLcName");
-        EXPECT_EQ(e.message() + std::to_string(e.code()), "Invalid locale name.1");
         return e.argument();
     }
     return "ok";

@@ -3,13 +3,6 @@
 #include <fl/i18n/code_points.hpp>
 
 #include <unicode/translit.h>
-#include <unicode/uchar.h>
-
-#include <array>
-#include <cstdio>
-#include <cstdlib>
-#include <cstring>
-#include <memory>
 
 using namespace fl::i18n;
 using namespace fl::testing;
@@ -63,38 +56,4 @@ TEST(Transform, CaseAndDiacriticsGoOverTheirOwnSource) {
     EXPECT_TRUE(detail::do_transform(nullptr, 7, to_no_diacritics()).empty());
     EXPECT_THROW(detail::do_transform(same = u"a\U0001D15E", to_no_diacritics()), CtypeTransformFailure);
     EXPECT_EQ(same, u"a\U0001D15E") << "would grow, as a symbol that comes apart for good";
-}
-
-// The first five columns; empty for a comment.
-static std::array<ustring, 5> columns(char* line) {
-    std::array<ustring, 5> result;
-    for (ustring& column : result) {
-        while (auto const c = static_cast<char32_t>(std::strtoul(line, &line, 16)))
-            column += lcctype::codecvt_from_u32(&c, 1);
-        line += *line == ';';
-    }
-    return result;
-}
-
-// Unicode's own table of cases, plain or as Debian has it.
-TEST(Transform, NormalizationConformsToTheTableOfUnicode) {
-    std::unique_ptr<std::FILE, int (*)(std::FILE*)> const table(
-        popen("bzip2 -dcf /usr/share/unicode/NormalizationTest.txt* 2>/dev/null", "r"), pclose);
-    char line[4096] = "";
-    if (!std::fgets(line, sizeof line, table.get()) || !std::strstr(line, U_UNICODE_VERSION))
-        GTEST_SKIP() << "No NormalizationTest.txt of Unicode " U_UNICODE_VERSION " (Debian: unicode-data)";
-    ustring const before = u"As long as a block of units, and more: "; // nothing joins with its last space
-    int rows = 0;
-    while (std::fgets(line, sizeof line, table.get()) && !HasFailure()) {
-        auto const c = columns(line);
-        rows += c[4].empty() ? 0 : 1;
-        SCOPED_TRACE(line);
-        for (std::size_t i = 0; i < 5; ++i) {
-            expect_result(to_nfc(), c[i], c[i < 3 ? 1 : 3]);
-            expect_result(to_nfd(), before + c[i], before + c[i < 3 ? 2 : 4]);
-            expect_result(to_nfkc(), c[i], c[3]);
-            expect_result(to_nfkd(), before + c[i], before + c[4]);
-        }
-    }
-    EXPECT_GT(rows, 18000);
 }
