@@ -3,8 +3,7 @@
 
 #include "date_time/input_rows.hpp"
 #include "locale_runtime/context/char16_streams.hpp"
-
-#include <fl/i18n/locale.hpp>
+#include "support/locale_double.hpp"
 
 #include <iostream>
 
@@ -14,24 +13,11 @@
 
 namespace fl::i18n {
 
-/// As much of a locale as the facets ask for; the rest of the library isn't here.
-struct stub_locale final : QnLocale {
-    bool operator==(QnLocale const&) const override { return true; }
-    bool operator!=(QnLocale const&) const override { return false; }
-    std::string shortName(LcCategory) const override { return ""; }
-    std::string language(LcCategory, language_tag_option) const override { return ""; }
-    std::string territory(LcCategory) const override { return ""; }
-    std::string modifier(LcCategory) const override { return ""; }
-    std::string toLanguageTag(LcCategory) const override { return ""; }
-    std::string encoding() const override { return "UTF-8"; }
-    std::string localeSpecificEncoding() const override { return ""; }
-    lc_opt_data_value getLcOptData(QnLcOptDataCtx::LcOptDataType) const override { return ""; }
-};
-
+// As much of a locale as the facets ask for; the rest of the library isn't here.
 QnLocale::~QnLocale() = default;
 
 QnLocale const& QnLocale::global() {
-    static stub_locale const locale;
+    static testing::locale_double const locale("");
     return locale;
 }
 

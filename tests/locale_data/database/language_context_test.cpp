@@ -16,31 +16,11 @@ static locale_database_context const& context() {
 // a preferred row wins; two that fit alike are no answer.
 TEST(LanguageContext, NamesResolveToOneRow) {
     for (auto const& [name, expected] : fl::testing::rows<2>(R"(
-        ja                ja_JP.Shift_JIS
-        aln               aln_XK.
-        ja_US             .
-        de                de_DE.ISO-8859-15
-        DE                de_DE.ISO-8859-15
-        en                .
-        zh                .
-        zh_TW             zh_TW.Big5
-        zh_HK             zh_HK.Big5-HKSCS
-        zh_SG             zh_SG.GB2312
-        zh-hant_tw        zh-Hant_TW.Big5
-        zh-Hans-MO        zh-Hans_MO.GB2312
-        zh-Phag_US        zh-Phag_US.
-        zh-Hant           .
-        zh-Latn_TW        .
-        sr-Latn_BA        sr-Latn_BA.ISO-8859-2
-        sr_BA             .
-        az_AZ             az_AZ.UTF-8
-        en_au.UTF-8@euro  en_AU.ISO-8859-1
-        en_029            en_029.ISO-8859-1
-        ja-Jpan           .
-        mt-Latn           mt-Latn_MT.ISO-8859-3
-        xx_YY             .
-        C                 .
-        ~                 .)")) {
+        ja ja_JP.Shift_JIS  aln aln_XK.  ja_US .  de de_DE.ISO-8859-15  DE de_DE.ISO-8859-15  en .  zh .
+        zh_TW zh_TW.Big5  zh_HK zh_HK.Big5-HKSCS  zh_SG zh_SG.GB2312  zh-hant_tw zh-Hant_TW.Big5
+        zh-Hans-MO zh-Hans_MO.GB2312  zh-Phag_US zh-Phag_US.  zh-Hant .  zh-Latn_TW .
+        sr-Latn_BA sr-Latn_BA.ISO-8859-2  sr_BA .  az_AZ az_AZ.UTF-8  en_au.UTF-8@euro en_AU.ISO-8859-1
+        en_029 en_029.ISO-8859-1  ja-Jpan .  mt-Latn mt-Latn_MT.ISO-8859-3  xx_YY .  C .  ~ .)")) {
         auto const element = get_locale_name_element(context(), name);
         EXPECT_EQ(element.short_locale_name() + '.' + element.encoding, expected) << name;
         EXPECT_EQ(get_language_context(context(), name).empty(), element.language.empty()) << name;

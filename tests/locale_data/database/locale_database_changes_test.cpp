@@ -2,8 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace fl::i18n::lcmgmt {
-namespace {
+using namespace fl::i18n::lcmgmt;
 
 /// A change's status, what is asked then, and what both are expected to be. The rows of a list are evaluated
 /// in their order.
@@ -14,7 +13,7 @@ struct step {
     char const* expected;
 };
 
-void check(std::initializer_list<step> steps) {
+static void check(std::initializer_list<step> steps) {
     for (step const& row : steps)
         EXPECT_TRUE(row.status == row.expected_status && row.answer == row.expected)
             << "row " << &row - steps.begin() + 1 << ": " << row.status << ", " << row.answer << ", not "
@@ -88,30 +87,19 @@ TEST(LocaleDatabaseChanges, EncodingsAreSharedByTheirKeys) {
 TEST(LocaleDatabaseChanges, AnEmptyRequiredArgumentChangesNothing) {
     locale_database d;
     auto const before = dump(d);
-    EXPECT_EQ(d.modify_locale_data_entry("", "a", "b"), change_status::empty_argument);
-    EXPECT_EQ(d.modify_default_encoding("a", ""), change_status::empty_argument);
-    EXPECT_EQ(d.modify_xpg_name("a", ""), change_status::empty_argument);
-    EXPECT_EQ(d.modify_locale_alias("", "a"), change_status::empty_argument);
-    EXPECT_EQ(d.modify_locale_alias("a", ""), change_status::empty_argument);
-    EXPECT_EQ(d.modify_region_locale_alias("a", ""), change_status::empty_argument);
-    EXPECT_EQ(d.remove_locale_alias(""), change_status::empty_argument);
-    EXPECT_EQ(d.remove_region_locale_alias(""), change_status::empty_argument);
-    EXPECT_EQ(d.remove_default_encoding(""), change_status::empty_argument);
-    EXPECT_EQ(d.remove_xpg_name(""), change_status::empty_argument);
-    EXPECT_EQ(d.modify_locale_optdata_entry("de", "a", "", u""), change_status::empty_argument);
-    EXPECT_EQ(d.modify_locale_optdata_entry("de", "", "b", u"c"), change_status::empty_argument);
-    EXPECT_EQ(d.remove_locale_optdata_entry("de", ""), change_status::empty_argument);
-    EXPECT_EQ(d.modify_encoding_data_entry("", "a", "b"), change_status::empty_argument);
-    EXPECT_EQ(d.modify_jvm_encoding("a", ""), change_status::empty_argument);
-    EXPECT_EQ(d.modify_compat_encoding("a", ""), change_status::empty_argument);
-    EXPECT_EQ(d.modify_encoding_alias("a", ""), change_status::empty_argument);
-    EXPECT_EQ(d.modify_encoding_alias("", "a"), change_status::empty_argument);
-    EXPECT_EQ(d.remove_encoding_alias(""), change_status::empty_argument);
-    EXPECT_EQ(d.remove_jvm_encoding(""), change_status::empty_argument);
-    EXPECT_EQ(d.remove_compat_encoding(""), change_status::empty_argument);
+    int const refused[] = {
+        d.modify_locale_data_entry("", "a", "b"), d.modify_default_encoding("a", ""),
+        d.modify_xpg_name("a", ""), d.modify_locale_alias("", "a"), d.modify_locale_alias("a", ""),
+        d.modify_region_locale_alias("a", ""), d.remove_locale_alias(""),
+        d.remove_region_locale_alias(""), d.remove_default_encoding(""), d.remove_xpg_name(""),
+        d.modify_locale_optdata_entry("de", "a", "", u""),
+        d.modify_locale_optdata_entry("de", "", "b", u"c"), d.remove_locale_optdata_entry("de", ""),
+        d.modify_encoding_data_entry("", "a", "b"), d.modify_jvm_encoding("a", ""),
+        d.modify_compat_encoding("a", ""), d.modify_encoding_alias("a", ""),
+        d.modify_encoding_alias("", "a"), d.remove_encoding_alias(""), d.remove_jvm_encoding(""),
+        d.remove_compat_encoding("")};
+    for (int const& status : refused)
+        EXPECT_EQ(status, change_status::empty_argument) << "call " << &status - refused + 1;
     EXPECT_EQ(dump(d), before);
 }
 // clang-format on
-
-} // namespace
-} // namespace fl::i18n::lcmgmt

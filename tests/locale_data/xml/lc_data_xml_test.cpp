@@ -73,21 +73,15 @@ TEST_F(LcDataXmlTest, AppliesEachElement) {
         <codeset><encoding name="Big5" compat="Y"/></codeset></lcdata>)"),
               0);
     for (auto const& [name, canonical, encoding, xpg_name] : testing::rows<4>(R"(
-        x1  xx     UTF-8         X
-        x2  xx     UTF-8         X
-        qq  ~      UTF-8         (null)
-        iw  he_IL  windows-1255  he_IL.UTF-8
-        de  de_DE  ISO-8859-1    de_DE.ISO8859-1)")) // the language data has the other encoding
+        x1 xx UTF-8 X  x2 xx UTF-8 X  qq ~ UTF-8 (null)  iw he_IL windows-1255 he_IL.UTF-8
+        de de_DE ISO-8859-1 de_DE.ISO8859-1)")) // the language data has the other encoding
         EXPECT_EQ(ask_locale(database_, name.c_str()), canonical + ' ' + encoding + ' ' + xpg_name) << name;
     EXPECT_EQ(database_.get_region_locale_name("il"), "he_IL");
     EXPECT_EQ(database_.get_optional_data_context("he_IL", "disable_l10n").value, "yes");
     EXPECT_EQ(database_.get_optional_data_context("he_IL", "disable_user_locale").value, "");
     for (auto const& [name, standard, jvm, compatible] : testing::rows<4>(R"(
-        UTF-8  UTF-8      UTF8    (null)
-        sjis   Shift_JIS  X       Y
-        ja     Shift_JIS  X       (null)
-        big5   Big5       MS950   Y
-        never  (null)     (null)  (null))"))
+        UTF-8 UTF-8 UTF8 (null)  sjis Shift_JIS X Y  ja Shift_JIS X (null)
+        big5 Big5 MS950 Y  never (null) (null) (null))"))
         EXPECT_EQ(ask_encoding(database_, name.c_str()), standard + ' ' + jvm + ' ' + compatible) << name;
     EXPECT_EQ(log(), "");
 }

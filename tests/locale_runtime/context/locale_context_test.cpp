@@ -1,7 +1,14 @@
-// Each test runs in a process of its own: what happens at the first use happens once.
+// The context and what it is made of. Each test runs in a process of its own: what happens at the first use
+// happens once.
+#include "locale_runtime/context/category_names.hpp"
 #include "locale_runtime/context/context_state.hpp"
+#include "locale_runtime/context/event_log.hpp"
+#include "locale_runtime/context/locale_slots.hpp"
+#include "locale_runtime/context/published.hpp"
+#include "support/rows.hpp"
 #include "support/threads.hpp"
 
+#include <fl/i18n/encoding_name.hpp>
 #include <fl/i18n/locale_context.hpp>
 #include <fl/i18n/locale_impl.hpp>
 
@@ -10,6 +17,7 @@
 
 using namespace fl::i18n;
 using namespace fl::i18n::lcmgmt;
+using namespace std::string_literals;
 using fl::testing::run_in_threads;
 
 static void publish(std::string const& name) {
@@ -58,4 +66,83 @@ TEST(LocaleContext, PublishedLocaleHasConvertersOfItsOwn) {
     auto unknown = std::make_unique<QnLocaleImpl>("de_DE");
     unknown->setEncoding("no-such-encoding");
     EXPECT_EQ(global_locale_slot(std::move(unknown)).master(), nullptr);
+}
+
+TEST(LocaleContext, EventLogGivesEntriesInTheOrderOfTheEvents) {
+    event_log log;
+    log.add("place", "What has happened.");
+    log.add("place", "Failed", 7);
+    auto const before = log.entries();
+    log.add_entry("as it is");
+    EXPECT_EQ(before, (std::vector<std::string>{"place - What has happened.", "place - Failed7"}));
+    EXPECT_EQ(log.entries().back(), "as it is");
+}
+
+TEST(LocaleContext, PublishedKeepsEachObjectAndShowsTheOneInForce) {
+    published<int> numbers;
+    EXPECT_FALSE(numbers.last() || numbers.in_force());
+    numbers.keep(std::make_unique<int>(1));
+    EXPECT_FALSE(numbers.in_force()) << "it is the maker's alone";
+    numbers.put_last_in_force();
+    int const& first = *numbers.in_force();
+    numbers.keep(std::make_unique<int>(2));
+    EXPECT_EQ(numbers.in_force(), &first);
+    EXPECT_EQ(*numbers.last(), 2);
+    numbers.put_last_in_force();
+    EXPECT_EQ(*numbers.in_force(), 2);
+    EXPECT_EQ(first, 1) << "a reference outlives its turn";
+}
+
+TEST(LocaleContext, SlotsGrowByAppendingAndKeepWhatIsReplaced) {
+    locale_database const database;
+    struct {
+        char const* name;
+        bool replaces;
+        std::size_t size;
+    } const steps[] = {{"en_US_POSIX", false, 1},
+                       {"de_DE", true, 2}, // the first one is not replaced
+                       {"fr_FR", true, 2},
+                       {"ja_JP", false, 3},
+                       {"it_IT", true, 3}};
+    locale_slots slots;
+    EXPECT_FALSE(slots.current());
+    std::vector<QnLocale const*> seen;
+    for (auto const& [name, replaces, size] : steps) {
+        auto locale = std::make_unique<QnLocaleImpl>(database);
+        locale->setLcName(name, "");
+        auto slot = std::make_unique<global_locale_slot>(std::move(locale));
+        replaces ? slots.replace_last(std::move(slot)) : slots.append(std::move(slot));
+        EXPECT_EQ(slots.size(), size) << name;
+        seen.push_back(&slots.current()->locale());
+    }
+    for (std::size_t i = 0; i < seen.size(); ++i)
+        EXPECT_EQ(seen[i]->shortName(QnLocale::time), steps[i].name);
+}
+
+TEST(LocaleContext, CategoryNamesAnswerWhateverTheirCase) {
+    category_names names;
+    EXPECT_THROW(names.category("ctype"), QnLcDataNotFound) << "not filled yet";
+    names.fill();
+    EXPECT_TRUE(names.category("ctype") == QnLocale::ctype && names.category("COLLATE") == QnLocale::collate);
+    EXPECT_EQ(names.category_name(QnLocale::collate), "collate");
+    EXPECT_EQ(names.optional_data("jvmencoding"), QnLcOptDataCtx::jvm_encoding);
+    EXPECT_EQ(names.optional_data("termOUTPUTencoding"), QnLcOptDataCtx::terminal_output_encoding);
+    EXPECT_THROW(names.category("message"), QnLcDataNotFound);
+    EXPECT_THROW(names.category_name(static_cast<QnLocale::LcCategory>(6)), QnLcDataNotFound);
+    EXPECT_THROW(names.optional_data("paper"), QnLcDataNotFound);
+}
+
+TEST(EncodingName, IsAskedByAnyOfItsNames) {
+    for (auto const& [name, standard] : fl::testing::rows<2>("utf8 UTF-8  sjis Shift_JIS  No-Such ~  ~ ~")) {
+        EXPECT_EQ(get_qn_standard_encoding_name_from_alias(name), standard);
+        EXPECT_EQ(get_encoding_name_from_alias(name), standard.empty() ? name : standard);
+    }
+}
+
+// Under a name of the database, or of ICU for one that the database has.
+TEST(EncodingName, IsKnownToTheDatabaseByItsOwnOrByIcusName) {
+    for (std::string const name : {"UTF-8", "sjis", "UTF8", "csISOLatin1"})
+        EXPECT_TRUE(is_supported_encoding(name)) << name;
+    for (std::string const& name : {"no-such"s, "SCSU"s, ""s, "UTF-8\0x"s})
+        EXPECT_FALSE(is_supported_encoding(name)) << name;
 }

@@ -1,29 +1,24 @@
-#include <fl/i18n/locale.hpp>
+#include "locale_runtime/context/char16_streams.hpp"
+#include "support/locale_double.hpp"
+#include "support/rows.hpp"
+#include "support/threads.hpp"
+
+#include <fl/i18n/locale_fallback.hpp>
 #include <fl/i18n/locale_name.hpp>
 
 #include <gtest/gtest.h>
 
 using namespace fl::i18n;
+using fl::ustring;
+using fl::testing::locale_double;
 using categories = std::vector<QnLocale::CategoryContext>;
 
 TEST(Locale, NamesAreResolved) {
-    struct row {
-        char const* name;
-        char const* ctype;
-        char const* messages;
-        char const* modifier;
-        char const* encoding;
-    };
-    row const rows[] = {
-        {"de_DE", "de_DE", "de_DE", "", "ISO-8859-1"},
-        {"iw", "he_IL", "he_IL", "", "UTF-8"},
-        {"en_US_POSIX", "en_US_POSIX", "en_US", "", "UTF-8"},
-        {"sr_Latn-BA", "sr-Latn_BA", "sr-Latn_BA", "", "windows-1250"},
-        {"de_DE.utf-16le", "de_DE", "de_DE", "", "UTF-16LE"},
-        {"de_DE.utf8@euro@phonebook", "de_DE", "de_DE", "@euro@phonebook", "UTF-8"},
-        {"C.US-ASCII@x", "en_US_POSIX", "en_US", "", "UTF-8"},
-    };
-    for (auto const& [name, ctype, messages, modifier, encoding] : rows) {
+    for (auto const& [name, ctype, messages, modifier, encoding] : fl::testing::rows<5>(R"(
+        de_DE de_DE de_DE ~ ISO-8859-1                  iw he_IL he_IL ~ UTF-8
+        en_US_POSIX en_US_POSIX en_US ~ UTF-8           sr_Latn-BA sr-Latn_BA sr-Latn_BA ~ windows-1250
+        de_DE.utf-16le de_DE de_DE ~ UTF-16LE           C.US-ASCII@x en_US_POSIX en_US ~ UTF-8
+        de_DE.utf8@euro@phonebook de_DE de_DE @euro@phonebook UTF-8)")) {
         auto const locale = QnLocale::createLocale(name);
         EXPECT_EQ(locale->shortName(QnLocale::ctype), ctype) << name;
         EXPECT_EQ(locale->shortName(QnLocale::messages), messages) << name;
@@ -32,23 +27,6 @@ TEST(Locale, NamesAreResolved) {
     }
 }
 
-/// Of another class, with names that no database has resolved.
-struct foreign_locale final : QnLocale {
-    explicit foreign_locale(std::string text) : name(std::move(text)) {}
-    bool operator==(QnLocale const&) const override { return false; }
-    bool operator!=(QnLocale const&) const override { return true; }
-    std::string shortName(LcCategory category) const override { return category == time ? name : "fr_CA"; }
-    std::string language(LcCategory, language_tag_option) const override { return ""; }
-    std::string territory(LcCategory) const override { return ""; }
-    std::string modifier(LcCategory) const override { return ""; }
-    std::string toLanguageTag(LcCategory) const override { return ""; }
-    std::string encoding() const override { return ""; }
-    std::string localeSpecificEncoding() const override { return ""; }
-    lc_opt_data_value getLcOptData(QnLcOptDataCtx::LcOptDataType) const override { return ""; }
-
-    std::string name;
-};
-
 TEST(Locale, PartsAreThoseOfTheNameHoweverItCame) {
     for (std::string const name : {"de", "de_DE", "DE_de", "de-DE.UTF-8@euro", "C", "C.UTF-8", "iw",
                                    "en_US_POSIX", "en-US-POSIX.UTF-8", "sr_latn-BA", "sr_Latn_BA", "es_419",
@@ -56,8 +34,8 @@ TEST(Locale, PartsAreThoseOfTheNameHoweverItCame) {
         auto const own = QnLocale::createLocale(name);
         auto const mixed = QnLocale::createLocale("ja", QnLocale::time, own->shortName(QnLocale::ctype));
         auto const taken = QnLocale::createLocale(*mixed, QnLocale::ctype, *own);
-        auto const foreign = QnLocale::createLocale(foreign_locale(name));
-        auto const foreign_part = QnLocale::createLocale(*own, QnLocale::time, foreign_locale(name));
+        auto const foreign = QnLocale::createLocale(locale_double(name));
+        auto const foreign_part = QnLocale::createLocale(*own, QnLocale::time, locale_double(name));
         for (auto const& locale : {own, mixed, taken, foreign, foreign_part, QnLocale::createLocale(*mixed)})
             for (auto const category : {QnLocale::ctype, QnLocale::time, QnLocale::messages}) {
                 auto const parts = lcmgmt::decompose_locale_name(locale->shortName(category));
@@ -84,17 +62,14 @@ static std::string refused(auto const& call) {
 TEST(Locale, EachFormRefusesBadNames) {
     auto const de = QnLocale::createLocale("de_DE");
     auto const zero = std::string("UTF-8") + '\0' + "x";
-    struct row {
-        std::string name;
-        std::string refused_as_own; // what is refused of it as the locale's own name
-        std::string refused_as_category;
-    };
-    row const rows[] = {
+    struct {
+        std::string name, refused_as_own, refused_as_category; // what is refused of it
+    } const rows[] = {
         {"xx_YY.UTF-8", "xx_YY", "xx_YY.UTF-8"}, {"C.UTF-8", "ok", "C.UTF-8"},
         {"ja_JP.SJIS", "SJIS", "SJIS"}, // ICU and the database know it by different names
         {"de_DE.no-such", "no-such", "no-such"}, {"de_DE." + zero, zero, zero},
     };
-    for (row const& row : rows) {
+    for (auto const& row : rows) {
         SCOPED_TRACE(row.name);
         categories const mixed{{QnLocale::time, "fr_FR"}, {QnLocale::time, row.name}};
         EXPECT_EQ(refused([&] { QnLocale::createLocale(row.name); }), row.refused_as_own);
@@ -121,4 +96,59 @@ TEST(Locale, ReplacedCategoryLeavesTheRestAlone) {
     auto const c_numbers = QnLocale::createLocaleWithCForNumeric("de_DE@euro");
     EXPECT_EQ(*c_numbers, *QnLocale::createLocale(*base, QnLocale::numeric, "C"));
     EXPECT_EQ(c_numbers->modifier(QnLocale::numeric) + c_numbers->modifier(QnLocale::monetary), "@euro");
+}
+
+TEST(LocaleFallback, NameThenNameWithoutRegionThenFallback) {
+    // The list begins with the name and ends with the fallback.
+    std::vector<std::string> const rows[] = {{"ja", "en"},
+                                             {"", "en"},
+                                             {"_US", ""},
+                                             {"de_AT", "de", "en"},
+                                             {"en_GB", "en", "en_GB"},
+                                             {"en_US_POSIX", "en_US", "en"},
+                                             {"zh-Hant_TW", "zh-Hant", ""},
+                                             {""}};
+    for (auto const& row : rows) {
+        std::vector<std::string> list;
+        make_locale_fallback_list(list, row.front(), row.back());
+        EXPECT_EQ(list, row);
+    }
+}
+
+TEST(LocaleFallback, AppendsAlsoFromTheListItself) {
+    std::vector<ustring> list{u"de_AT", u"en"};
+    list.shrink_to_fit(); // the next append moves the elements
+    make_locale_fallback_list(list, list[0], list[1]);
+    EXPECT_EQ(list, (std::vector<ustring>{u"de_AT", u"en", u"de_AT", u"de", u"en"}));
+}
+
+TEST(LocaleFallback, OfALocaleFollowsItsMessages) {
+    auto const locale = QnLocale::createLocale("ja_JP", QnLocale::messages, "de_AT");
+    std::vector<std::string> narrow;
+    make_locale_fallback_list(narrow, *locale, "fr");
+    EXPECT_EQ(narrow, (std::vector<std::string>{"de_AT", "de", "fr"}));
+    EXPECT_EQ(get_fallback_locales(*locale), (std::vector<ustring>{u"de_AT", u"de", u"en"}));
+    EXPECT_EQ(get_fallback_locales_with_empty_default(*locale), (std::vector<ustring>{u"de_AT", u"de", u""}));
+}
+
+TEST(StdLocale, StreamsWorkAsTheClassicOnesDoUnderAnyLocale) {
+    struct dotted : std::numpunct<char> {
+        char do_decimal_point() const override { return ','; }
+        std::string do_grouping() const override { return "\3"; }
+    };
+    std::locale const before = std::locale::global(std::locale(std::locale::classic(), new dotted));
+    EXPECT_EQ("", fl::testing::char16_fault(facet::get_global_std_locale()));
+    std::locale::global(before);
+}
+
+TEST(StdLocale, EachThreadKeepsALocaleOfItsOwn) {
+    std::locale const& first = facet::get_global_std_locale();
+    std::locale kept;
+    fl::testing::run_in_threads(1, [&](int) {
+        EXPECT_NE(&first, &facet::get_global_std_locale());
+        EXPECT_EQ(&facet::get_global_std_locale(), &facet::get_global_std_locale());
+        kept = facet::get_global_std_locale();
+    });
+    EXPECT_EQ(&first, &facet::get_global_std_locale());
+    EXPECT_EQ(u'.', std::use_facet<std::numpunct<char16_t>>(kept).decimal_point()) << "outlives its thread";
 }
