@@ -1,4 +1,5 @@
 #include "support/failure.hpp"
+#include "support/rows.hpp"
 
 #include <fl/i18n/catalog_id.hpp>
 
@@ -48,19 +49,11 @@ TEST(CatalogID, RefusedChangeLeavesTheObject) {
 }
 
 TEST(CatalogID, SplitsATextIntoItself) {
-    struct {
-        std::string text;
-        bool is_whole;
-        std::string component, rest;
-    } const rows[] = {
-        {"x:y", true, "x", "y"},
-        {"x", false, "x", "kept"},
-        {"x:", false, "x", ""},
-    };
-    for (auto const& row : rows) {
-        std::string text = row.text, rest = "kept";
-        EXPECT_EQ(CatalogID().extractIDComponents(text, text, rest), row.is_whole) << row.text;
-        EXPECT_EQ(text + "|" + rest, row.component + "|" + row.rest) << row.text;
+    for (auto const& [whole, is_whole, component, rest] :
+         fl::testing::rows<4>("x:y 1 x y  x 0 x kept  x: 0 x ~")) {
+        std::string text = whole, behind = "kept";
+        EXPECT_EQ(CatalogID().extractIDComponents(text, text, behind), is_whole == "1") << whole;
+        EXPECT_EQ(text + "|" + behind, component + "|" + rest) << whole;
     }
 }
 

@@ -1,9 +1,6 @@
+#include "date_time/input_rows.hpp"
 #include "support/failure.hpp"
 
-#include <fl/i18n/cvt_exceptions.hpp>
-#include <fl/i18n/date_time.hpp>
-
-#include <boost/date_time/posix_time/posix_time.hpp>
 #include <gtest/gtest.h>
 
 using namespace fl::i18n::date_time;
@@ -11,10 +8,7 @@ using namespace fl::i18n::date_time;
 static ptime const time_of_test = boost::posix_time::time_from_string("2002-01-31 10:00:01.12");
 
 TEST(DateTime, NamedFormats) {
-    struct {
-        DateFormat format;
-        char16_t const* written;
-    } const rows[] = {
+    std::pair<DateFormat, char16_t const*> const rows[] = {
         {DATE_FORMAT_SIMPLE, u"2002-Jan-31 10:00:01.120000"},
         {DATE_FORMAT_ISO, u"20020131T100001.120000"},
         {DATE_FORMAT_ISO_EXTENDED, u"2002-01-31T10:00:01.120000"},
@@ -36,6 +30,11 @@ TEST(DateTime, FormatStrings) {
     EXPECT_EQ(u"31.1.02 10:00:01.120000", to_ustring(time_of_test, "%d.1.%y %H:%M:%s %z"));
     EXPECT_THROW(to_ustring(time_of_test, "%Y\xE5"), fl::i18n::CvtInvalidCharacter);
     EXPECT_EQ(u"Thursday, 31 January", to_ustring(time_of_test, "%A, %d %B"));
+}
+
+TEST(DateTime, Input) {
+    for (fl::testing::input_row const& row : fl::testing::input_rows)
+        EXPECT_EQ(row.expected, outcome(row)) << row.format << ' ' << testing::PrintToString(row.text);
 }
 
 TEST(DateTime, UnixTimeIsCutOffTowardsZero) {

@@ -54,13 +54,11 @@ TEST(LocaleImpl, EveryCategoryAndModifierCountsInComparison) {
 }
 
 TEST(LocaleImpl, PaperAndUnitsFollowTheTimeCategory) {
-    struct row {
-        char const* time;
-        char const* others;
+    struct {
+        char const *time, *others;
         QnLcOptDataCtx::PaperSize paper;
         QnLcOptDataCtx::MeasurementSystem units;
-    };
-    row const rows[] = {
+    } const rows[] = {
         {"de_DE", "en_US", QnLcOptDataCtx::a4_paper, QnLcOptDataCtx::metric_units},
         {"en_US", "de_DE", QnLcOptDataCtx::other_paper, QnLcOptDataCtx::us_units},
         {"en_GB", "en_US", QnLcOptDataCtx::a4_paper, QnLcOptDataCtx::uk_units},

@@ -91,9 +91,12 @@ static fl::testing::preferences_double& preferences() {
     return user;
 }
 
+static char const* variable(char const* name, char const* otherwise = "") {
+    return std::getenv(name) ? std::getenv(name) : otherwise;
+}
+
 /// Not the environment but these variables tell the user's preferences.
 static void prefer() {
-    auto const variable = [](char const* name) { return std::getenv(name) ? std::getenv(name) : ""; };
     preferences().locale = variable("USER_LOCALE");
     preferences().language = variable("USER_LANGUAGE");
     preferences().application = variable("APPLICATION_LANGUAGE");
@@ -128,11 +131,6 @@ static void check_std_locale() {
     std::cout << ": " << fl::testing::environment() << '\n';
 }
 
-static void ruin_environment() {
-    for (char const* const name : fl::testing::locale_variables)
-        ::setenv(name, "no_such", 1);
-}
-
 static void print_java_settings() {
     auto const java = get_javavm_init_context();
     std::cout << "java";
@@ -152,11 +150,6 @@ static void start_child() {
     std::cout << std::flush;
     if (std::system("\"$PROBE\" child") != 0)
         throw std::runtime_error("the child failed");
-}
-
-static void print_time_zone_directory() {
-    char const* const directory = std::getenv("ICU_TIMEZONE_FILES_DIR");
-    std::cout << "zones " << (directory ? directory : "-") << '\n';
 }
 
 /// False where the library refused.
@@ -194,11 +187,6 @@ static void print_news_of_log() {
         std::cout << "  " << log[seen_of_log] << '\n';
 }
 
-static void start() {
-    initialize();
-    skip_log();
-}
-
 static std::map<std::string, void (*)()> const commands = {
     {"check", check_std_locale},
     {"classic", [] { std::cout << "classic " << QnLocale::classic().localeSpecificEncoding() << '\n'; }},
@@ -211,13 +199,21 @@ static std::map<std::string, void (*)()> const commands = {
     {"outcome", print_outcome},
     {"prefer", prefer},
     {"report", report},
-    {"ruin", ruin_environment},
+    {"ruin",
+     [] {
+         for (char const* const name : fl::testing::locale_variables)
+             ::setenv(name, "no_such", 1);
+     }},
     {"skip-log", skip_log},
-    {"start", start},
+    {"start",
+     [] {
+         initialize();
+         skip_log();
+     }},
     {"status", print_status},
     {"start-child", start_child},
     {"time-in-UTF-8", [] { std::setlocale(LC_TIME, "C.UTF-8"); }},
-    {"zones", print_time_zone_directory}};
+    {"zones", [] { std::cout << "zones " << variable("ICU_TIMEZONE_FILES_DIR", "-") << '\n'; }}};
 
 int main(int argc, char** argv) try {
     if (argc == 2 && argv[1] == std::string("child")) {
