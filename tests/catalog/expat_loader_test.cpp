@@ -1,5 +1,6 @@
 #include "support/failure.hpp"
 #include "support/raise.hpp"
+#include "support/rows.hpp"
 #include "support/temp_tree.hpp"
 
 #include <fl/i18n/expat_loader.hpp>
@@ -45,13 +46,8 @@ struct ExpatLoaderTest : ::testing::Test, fl::testing::temp_tree {
 };
 
 TEST_F(ExpatLoaderTest, StopsWhereTheHandlerSays) {
-    struct {
-        std::string last, seen;
-    } const rows[] = {
-        {"", "<a>x<b></b>y\u00e4</a>"},     {"<a>", "<a>"}, {"x", "<a>x"}, {"<b>", "<a>x<b>"},
-        {"</a>", "<a>x<b></b>y\u00e4</a>"},
-    };
-    for (auto const& [last, seen] : rows) {
+    for (auto const& [last, seen] : fl::testing::rows<2>(
+             "~ <a>x<b></b>y\u00e4</a>  <a> <a>  x <a>x  <b> <a>x<b>  </a> <a>x<b></b>y\u00e4</a>")) {
         SCOPED_TRACE(last);
         bool const whole = last.empty();
         EXPECT_EQ(load("<a>x<b/>y&#228;</a>", last), whole);

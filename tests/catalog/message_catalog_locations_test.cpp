@@ -2,6 +2,7 @@
 
 #include "catalog/catalog_tree.hpp"
 #include "support/failure.hpp"
+#include "support/rows.hpp"
 #include "support/threads.hpp"
 
 #include <fl/i18n/message_id_completion.hpp>
@@ -68,15 +69,11 @@ TEST_F(MessageCatalogLocations, StayWhenTheirRemovalFails) {
     ASSERT_TRUE(MessageCatalog::MessageCatalogInit(main_));
     add({addon_});
     file("addon/resources/no_component.xml");
-    struct {
-        std::string file, reason;
-    } const rows[] = {
-        {"app/en/bad-name.xml", "Bad Catalog ID"}, {"app/en/n\u00e4me.xml", ""}, {"german/de/x", ""}};
-    for (auto const& [name, reason] : rows) {
+    for (auto const& [name, reason] :
+         fl::testing::rows<2>("app/en/bad-name.xml Bad  app/en/n\u00e4me.xml ~  german/de/x ~")) {
         std::filesystem::path const bad = file("addon/resources/" + name);
         auto const told = failure<MessageCatalog::ResPathRemovalUnknownError>(remove_root, addon_);
-        EXPECT_TRUE(told.starts_with("Unknown error while removal of path! Error : " + reason))
-            << name << told;
+        EXPECT_TRUE(told.starts_with("Unknown error while removal of path! Error : " + reason)) << told;
         std::filesystem::remove(bad);
     }
     std::filesystem::rename(root() / "addon", root() / "gone");

@@ -71,9 +71,7 @@ TEST_F(MessageIdCompletion, ListsWhatMayFollow) {
 
 TEST_F(MessageIdCompletion, CountsWhatStandsBeforeABreak) {
     std::string const one = "<entry key='e:one'/>";
-    struct {
-        std::string entries, completions;
-    } const rows[] = {
+    std::pair<std::string, char const*> const rows[] = {
         {one + "<x/><entry key='e:two'/>", "one: "},
         {one + "<entry key='e:two'><entry key='e:three'/></entry>", "one: two: "},
         {"<entry x='key' y='e:two'/>" + one, "one: "},           // a value is read as a name
@@ -81,9 +79,9 @@ TEST_F(MessageIdCompletion, CountsWhatStandsBeforeABreak) {
         {one + "<entry key='e:t\xC3\xA4'/>", ""},                // a failure
         {one + "&x;<entry key='e:two'/>", "one: "},
     };
-    for (auto const& row : rows) {
-        file(maps + "e/catalog_map.xml", "<MessageCatalogMap>" + row.entries + "</MessageCatalogMap>");
-        EXPECT_EQ(row.completions, completions(u"e:")) << row.entries;
+    for (auto const& [entries, expected] : rows) {
+        file(maps + "e/catalog_map.xml", "<MessageCatalogMap>" + entries + "</MessageCatalogMap>");
+        EXPECT_EQ(expected, completions(u"e:")) << entries;
     }
     // Cut anywhere, and any unit damaged: what stands before that counts.
     std::string const whole = "<MessageCatalogMap>" + one + "<entry key='e:two'/></MessageCatalogMap>";

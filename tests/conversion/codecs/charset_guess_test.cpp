@@ -9,44 +9,24 @@
 
 using namespace fl::i18n;
 
-static std::string shown(std::vector<detail::charset_match> const& guesses) {
-    std::string result = "of";
-    for (auto const& [name, confidence] : guesses)
-        result.append(" ").append(name) += " " + std::to_string(confidence);
-    return result;
-}
-
+// Two guesses with their confidence, the two limits, the choice. The first one needs to lead by half of its limit,
+// or to be sure; for UTF-8 the confidence of the first counts. Behind a second guess comes a third, which never
+// counts.
 TEST(CharsetGuess, BelievesWhatConvincesAndElseTheFallback) {
-    struct {
-        std::vector<detail::charset_match> guesses; // with a second one comes a third, which never counts
-        std::string_view chosen;
-        detail::charset_thresholds limits = {90, 80};
-    } const rows[] = {
-        {{}, "fallback"},
-        {{{"A", 90}}, "A"},
-        {{{"A", 89}}, "fallback"},
-        {{{"A", 92}, {"B", 47}}, "A"}, // leads by half of the limit
-        {{{"A", 92}, {"B", 48}}, "fallback"},
-        {{{"A", 91}, {"B", 46}}, "A", {91, 80}},
-        {{{"A", 92}, {"B", 2}}, "fallback", {93, 80}},
-        {{{"A", 99}, {"B", 99}}, "fallback"},
-        {{{"A", 100}, {"B", 100}}, "A"}, // is sure
-        {{{"UTF-8", 85}, {"A", 70}}, "UTF-8"},
-        {{{"utf-8", 85}}, "fallback"},
-        {{{"UTF-8", 79}}, "fallback"},
-        {{{"A", 85}, {"UTF-8", 20}}, "UTF-8"}, // by the confidence of the first
-        {{{"A", 80}, {"UTF-8", 80}}, "fallback", {90, 81}},
-        {{{"IBM420_ltr", 100}}, "fallback"},
-        {{{"IBM420_rtl", 100}, {"B", 1}}, "fallback"},
-        {{{"IBM424_ltr", 99}, {"B", 1}}, "fallback"},
-        {{{"IBM424_rtl", 100}, {"UTF-8", 10}}, "UTF-8", {90, 100}},
-    };
-    for (auto const& [guesses, chosen, limits] : rows) {
-        std::vector block = guesses; // of the exact size, for sanitizers
-        if (block.size() == 2)
-            block.push_back({"UTF-8", 1});
-        block.shrink_to_fit();
-        EXPECT_EQ(chosen, select_charset(block, limits, "fallback")) << shown(guesses);
+    for (auto const& row : fl::testing::rows<7>(R"(
+        ~ 0 ~ 0 90 80 other                A 90 ~ 0 90 80 A                   A 89 ~ 0 90 80 other
+        A 92 B 47 90 80 A                  A 92 B 48 90 80 other              A 91 B 46 91 80 A
+        A 92 B 2 93 80 other               A 99 B 99 90 80 other              A 100 B 100 90 80 A
+        UTF-8 85 A 70 90 80 UTF-8          utf-8 85 ~ 0 90 80 other           UTF-8 79 ~ 0 90 80 other
+        A 85 UTF-8 20 90 80 UTF-8          A 80 UTF-8 80 90 81 other          IBM420_ltr 100 ~ 0 90 80 other
+        IBM420_rtl 100 B 1 90 80 other     IBM424_ltr 99 B 1 90 80 other
+        IBM424_rtl 100 UTF-8 10 90 100 UTF-8)")) {
+        std::vector<detail::charset_match> guesses{
+            {row[0].c_str(), std::stoi(row[1])}, {row[2].c_str(), std::stoi(row[3])}, {"UTF-8", 1}};
+        guesses.resize(row[0].empty() ? 0 : row[2].empty() ? 1 : 3);
+        guesses.shrink_to_fit(); // of the exact size, for sanitizers
+        EXPECT_EQ(row[6], select_charset(guesses, {std::stoi(row[4]), std::stoi(row[5])}, "other"))
+            << testing::PrintToString(row);
     }
 }
 

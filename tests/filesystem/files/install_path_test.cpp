@@ -24,9 +24,7 @@ struct InstallPathTest : testing::Test, fl::testing::volume_double {
 };
 
 TEST_F(InstallPathTest, WalksUpToTheDirectoryPair) {
-    struct {
-        char const *module, *root;
-    } const rows[] = {
+    std::pair<char const*, char const*> const rows[] = {
         {"/opt/x/bin/" DIR "/lib.so", "/opt/x"},
         {"//\xFFx//bin/" DIR "//lib.so", "/\xFFx"},
         {"/bin/" DIR "/lib.so", "/"},

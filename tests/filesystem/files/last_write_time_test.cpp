@@ -17,14 +17,10 @@ TEST(LastWriteTime, IsReadBackToTheMicrosecondOrRefused) {
     fl::testing::temp_tree const tree;
     std::filesystem::path const file = tree.file("f");
     ptime const accessed = status(tree.text(u"f")).access_time;
-    struct {
-        char const* text;
-        std::time_t seconds; // as stat(2) gives them
-    } const rows[] = {
-        {"1969-12-31 23:59:59.999999", -1},
+    std::pair<char const*, std::time_t> const rows[] = {
+        {"1969-12-31 23:59:59.999999", -1}, // as stat(2) gives them
         {"2038-01-19 03:14:08.5", 2147483648},
-        {"1901-12-14 00:00:00.000001", -2147472000},
-    };
+        {"1901-12-14 00:00:00.000001", -2147472000}};
     for (auto const& [text, seconds] : rows) {
         ptime const time = boost::posix_time::time_from_string(text);
         last_write_time(tree.text(u"f//"), time);

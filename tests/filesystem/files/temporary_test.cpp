@@ -1,5 +1,6 @@
 #include "filesystem/files/temporary_steps.hpp"
 #include "support/failure.hpp"
+#include "support/rows.hpp"
 #include "support/temp_tree.hpp"
 
 #include <fl/filesystem/exceptions.hpp>
@@ -73,32 +74,21 @@ TEST_F(TemporaryTest, NothingThatExistsIsOpenedOrFollowed) {
 
 TEST_F(TemporaryTest, TheFirstUsableDirectoryOfTheEnvironmentServes) {
     char const* const variables[] = {"OWN", "TMPDIR", "TMP", "TEMP"};
-    constexpr char const* unset = nullptr;
-    struct {
-        char const* values[4]; // of the variables in turn, in the tree
-        char const* found;     // likewise; null for "/tmp"
-    } const rows[] = {
-        {{unset, unset, unset, unset}, nullptr},
-        {{unset, "a", "a/.", unset}, "a"},
-        {{unset, unset, "a", "a/."}, "a"},
-        {{unset, unset, unset, "a//"}, "a//"},
-        {{unset, "", "a", unset}, "a"},
-        {{unset, "file", unset, unset}, nullptr},
-        {{unset, "file", "missing", "a"}, "a"},
-        {{unset, "loop", "a", unset}, "a"},
-        {{unset, "\xFF", "pipe", "link"}, nullptr},
-        {{"a", "a/.", unset, unset}, "a"},
-        {{"file", "a", unset, unset}, "a"},
-    };
-    for (auto const& row : rows) {
+    // The variables in turn, in the tree, and the directory that is found.
+    for (auto const& row : fl::testing::rows<5>(
+             "unset unset unset unset /tmp  unset a a/. unset a  unset unset a a/. a  unset ~ a unset a  "
+             "unset unset unset a// a//  unset file unset unset /tmp  unset file missing a a  unset loop a "
+             "unset a  "
+             "unset \xFF pipe link /tmp  a a/. unset unset a  file a unset unset a")) {
         for (std::size_t i = 0; i < 4; ++i) {
-            std::string const value = row.values[i] && *row.values[i] ? tree.root() / row.values[i] : "";
-            ASSERT_EQ(row.values[i] ? ::setenv(variables[i], value.c_str(), 1) : ::unsetenv(variables[i]), 0);
+            std::string const value = row[i].empty() ? "" : tree.root() / row[i];
+            ASSERT_EQ(row[i] == "unset" ? ::unsetenv(variables[i]) : ::setenv(variables[i], value.c_str(), 1),
+                      0);
         }
         // The first two are no names of variables.
         ustring const found = temp_dir_name({"", std::string("TMPDIR\0", 7), "OWN"});
-        EXPECT_EQ(found, row.found ? tree.text(detail::from_filesystem(row.found)) : u"/tmp")
-            << testing::PrintToString(row.values);
+        EXPECT_EQ(found, row[4] == "/tmp" ? u"/tmp" : tree.text(detail::from_filesystem(row[4])))
+            << testing::PrintToString(row);
     }
     ASSERT_EQ(::setenv("TMPDIR", (tree.root() / "a//").c_str(), 1), 0);
     EXPECT_TRUE(tmpnam(u"", u"p", u"").starts_with(tree.text(u"a/p")));
