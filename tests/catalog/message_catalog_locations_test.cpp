@@ -35,31 +35,28 @@ TEST_F(MessageCatalogLocations, RefuseWhatTheyCannotUse) {
 }
 
 TEST_F(MessageCatalogLocations, WinOnlyByABetterLocaleAndTakeTheirCatalogsWithThem) {
-    struct row {
-        char const *locale, *catalog, *before, *meanwhile, *behind; // where the catalog lies that answers
-    };
-    row const rows[] = {
-        {"de_CH", "app:text", "main/app/de/text", "addon/app/de_CH/text", "main/app/de/text"},
-        {"de_DE", "app:text", "main/app/de/text", "main/app/de/text", "main/app/de/text"},
-        {"ja_JP", "extra:sub:deep:leaf", "none", "addon/extra/en/sub/deep/leaf", "none"},
-        {"en_US", "app:third", "none", "third/app/en/third", "third/app/en/third"},
-        {"fr_FR", "app:second", "none", "addon/app/en/second", "none"},
-        // Not among the English files, by which the catalogs of a location are known:
-        {"de_DE", "app:only_german", "none", "addon/app/de/only_german", "addon/app/de/only_german"},
-    };
-    auto const expect_answers = [&](char const* row::*expected) {
-        for (row const& row : rows)
-            EXPECT_EQ(row.*expected, answer(row.locale, row.catalog)) << row.locale << " " << row.catalog;
+    // Where the catalog lies that answers: before, meanwhile, behind. The last one is not among the English files, by
+    // which the catalogs of a location are known.
+    auto const rows = fl::testing::rows<5>(R"(
+        de_CH app:text             main/app/de/text  addon/app/de_CH/text          main/app/de/text
+        de_DE app:text             main/app/de/text  main/app/de/text              main/app/de/text
+        ja_JP extra:sub:deep:leaf  none              addon/extra/en/sub/deep/leaf  none
+        en_US app:third            none              third/app/en/third            third/app/en/third
+        fr_FR app:second           none              addon/app/en/second           none
+        de_DE app:only_german      none              addon/app/de/only_german      addon/app/de/only_german)");
+    auto const expect_answers = [&](std::size_t column) {
+        for (auto const& row : rows)
+            EXPECT_EQ(row[column], answer(row[0].c_str(), row[1])) << row[0] << " " << row[1];
     };
     ASSERT_TRUE(MessageCatalog::MessageCatalogInit(main_));
-    expect_answers(&row::before);
+    expect_answers(2);
     add({addon_ + u"//", text(u"third"), addon_});
     add({main_, addon_});
     EXPECT_EQ("main/app/de/text", answer("de_CH")) << "a loaded catalog stays until it is flushed";
     MessageCatalog::FlushCatalogFromCache(CatalogID("app:text"));
-    expect_answers(&row::meanwhile);
+    expect_answers(3);
     remove_root(addon_);
-    expect_answers(&row::behind);
+    expect_answers(4);
     std::filesystem::remove_all(root() / "main");
     remove_root(main_); // which is there from the start as well, so that nothing is looked at on the disk
     EXPECT_EQ(2U, count());

@@ -12,8 +12,6 @@
 #include <sstream>
 #include <string>
 
-namespace {
-
 using namespace fl::i18n;
 using fl::testing::failure;
 
@@ -95,5 +93,3 @@ TEST(Boundary, FacetsAreFoundFromOutside) {
     stream << 1234.5 << std::boolalpha << true;
     EXPECT_EQ(u"1234.5true", stream.str());
 }
-
-} // namespace

@@ -5,11 +5,7 @@
 #include <dlfcn.h>
 #include <filesystem>
 
-namespace {
-
-int in_main_program = 0;
-
-} // namespace
+static int in_main_program = 0;
 
 TEST(Linux, TheMainProgramIsKnownByItsFile) {
     std::string const program = std::filesystem::read_symlink("/proc/self/exe").string();

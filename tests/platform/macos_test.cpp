@@ -12,9 +12,7 @@
 #include <sys/mount.h>
 #include <unistd.h>
 
-namespace {
-
-fl::platform::services const& macos = fl::platform::native();
+static fl::platform::services const& macos = fl::platform::native();
 
 constexpr char const* locale_key = "AppleLocale, current application";
 constexpr char const* user_key = "AppleLanguages, any application, current user, any host";
@@ -28,8 +26,6 @@ struct MacosPreferences : testing::Test {
             EXPECT_EQ(object.owners, 0);
     }
 };
-
-} // namespace
 
 TEST(Macos, AVolumeTellsItsFlags) {
     constexpr std::int32_t no_answer = -1;

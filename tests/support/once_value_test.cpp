@@ -7,19 +7,13 @@
 #include <chrono>
 #include <thread>
 
-namespace fl::support {
-namespace {
-
 TEST(OnceValue, IsMadeByOneThreadAfterAFailureAndSeenByAll) {
-    static once_value<int> value;
+    static fl::support::once_value<int> value;
     EXPECT_THROW(value.get([]() -> int { throw 'x'; }), char);
     std::atomic<int> made{0};
     auto const make = [&] {
         std::this_thread::sleep_for(std::chrono::milliseconds(50)); // so that the others come meanwhile
         return ++made;
     };
-    testing::run_in_threads(8, [&](int) { EXPECT_EQ(1, value.get(make)); });
+    fl::testing::run_in_threads(8, [&](int) { EXPECT_EQ(1, value.get(make)); });
 }
-
-} // namespace
-} // namespace fl::support

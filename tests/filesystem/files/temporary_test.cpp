@@ -77,9 +77,8 @@ TEST_F(TemporaryTest, TheFirstUsableDirectoryOfTheEnvironmentServes) {
     // The variables in turn, in the tree, and the directory that is found.
     for (auto const& row : fl::testing::rows<5>(
              "unset unset unset unset /tmp  unset a a/. unset a  unset unset a a/. a  unset ~ a unset a  "
-             "unset unset unset a// a//  unset file unset unset /tmp  unset file missing a a  unset loop a "
-             "unset a  "
-             "unset \xFF pipe link /tmp  a a/. unset unset a  file a unset unset a")) {
+             "unset unset unset a// a//  unset file unset unset /tmp  unset file missing a a  "
+             "unset loop a unset a  unset \xFF pipe link /tmp  a a/. unset unset a  file a unset unset a")) {
         for (std::size_t i = 0; i < 4; ++i) {
             std::string const value = row[i].empty() ? "" : tree.root() / row[i];
             ASSERT_EQ(row[i] == "unset" ? ::unsetenv(variables[i]) : ::setenv(variables[i], value.c_str(), 1),

@@ -1,3 +1,5 @@
+#include "support/rows.hpp"
+
 #include <fl/filesystem/exceptions.hpp>
 #include <fl/filesystem/path.hpp>
 
@@ -41,12 +43,9 @@ TEST(Path, RandomNamesAgreeWithTheStandardLibrary) {
 }
 
 TEST(Path, ConcatenatesWithOneSeparator) {
-    struct {
-        char const *first, *second, *expected;
-    } const rows[] = {{"a", "b", "a/b"}, {"a/", "b", "a/b"}, {"a", "/b", "a/b"}, {"a//", "//b", "a/b"},
-                      {"", "b", "b"},    {"", "/b", "/b"},   {"a", "", "a"},     {"a/", "", "a/"},
-                      {"/", "b", "/b"},  {"/", "/b", "/b"},  {"a", "/", "a"},    {"", "", ""}};
-    for (auto const& [first, second, expected] : rows) {
+    for (auto const& [first, second, expected] :
+         fl::testing::rows<3>("a b a/b  a/ b a/b  a /b a/b  a// //b a/b  ~ b b  ~ /b /b  a ~ a  a/ ~ a/  / b "
+                              "/b  / /b /b  a / a  ~ ~ ~")) {
         EXPECT_EQ(narrow::concatenate_pathname(first, second), expected) << first << " and " << second;
         EXPECT_EQ(native_path(first) / second, native_path(expected)) << first << " and " << second;
     }

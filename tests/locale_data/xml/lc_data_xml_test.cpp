@@ -22,19 +22,19 @@ XML_Parser XML_ParserCreate(XML_Char const* encoding) {
     return no_parser ? nullptr : XML_ParserCreate_MM(encoding, nullptr, nullptr);
 }
 
-namespace fl::i18n::lcmgmt {
-namespace {
-
+using namespace fl::i18n::lcmgmt;
 using namespace std::string_literals;
+using fl::filesystem::native_path;
+using fl::testing::failure;
 
 struct throwing_handler : LcdbEventHandler {
     using LcdbEventHandler::LcdbEventHandler;
-    int startEntry(char const*, char const**) override { support::raise(std::range_error("mine")); }
+    int startEntry(char const*, char const**) override { fl::support::raise(std::range_error("mine")); }
 };
 
-struct LcDataXmlTest : ::testing::Test, testing::temp_tree {
-    filesystem::native_path write(std::string const& document) const {
-        return filesystem::native_path(file("x.xml", document).string());
+struct LcDataXmlTest : testing::Test, fl::testing::temp_tree {
+    native_path write(std::string const& document) const {
+        return native_path(file("x.xml", document).string());
     }
 
     /// The expat error of the failure, 0 for success.
@@ -72,14 +72,14 @@ TEST_F(LcDataXmlTest, AppliesEachElement) {
             <encoding name="Sjis" jvm_encoding="X" compat="Y"><encoding_alias name="ja"/></encoding></codeset>
         <codeset><encoding name="Big5" compat="Y"/></codeset></lcdata>)"),
               0);
-    for (auto const& [name, canonical, encoding, xpg_name] : testing::rows<4>(R"(
+    for (auto const& [name, canonical, encoding, xpg_name] : fl::testing::rows<4>(R"(
         x1 xx UTF-8 X  x2 xx UTF-8 X  qq ~ UTF-8 (null)  iw he_IL windows-1255 he_IL.UTF-8
         de de_DE ISO-8859-1 de_DE.ISO8859-1)")) // the language data has the other encoding
         EXPECT_EQ(ask_locale(database_, name.c_str()), canonical + ' ' + encoding + ' ' + xpg_name) << name;
     EXPECT_EQ(database_.get_region_locale_name("il"), "he_IL");
     EXPECT_EQ(database_.get_optional_data_context("he_IL", "disable_l10n").value, "yes");
     EXPECT_EQ(database_.get_optional_data_context("he_IL", "disable_user_locale").value, "");
-    for (auto const& [name, standard, jvm, compatible] : testing::rows<4>(R"(
+    for (auto const& [name, standard, jvm, compatible] : fl::testing::rows<4>(R"(
         UTF-8 UTF-8 UTF8 (null)  sjis Shift_JIS X Y  ja Shift_JIS X (null)
         big5 Big5 MS950 Y  never (null) (null) (null))"))
         EXPECT_EQ(ask_encoding(database_, name.c_str()), standard + ' ' + jvm + ' ' + compatible) << name;
@@ -127,7 +127,7 @@ TEST_F(LcDataXmlTest, StructureOfDocuments) {
 // The file that is installed changes nothing; the example in its comment is one that works.
 TEST_F(LcDataXmlTest, TheInstalledFile) {
     auto const before = dump(database_);
-    parseLcData(database_, filesystem::native_path(FL_I18N_LCDATA_FILE));
+    parseLcData(database_, native_path(FL_I18N_LCDATA_FILE));
     EXPECT_EQ(dump(database_), before);
     std::ostringstream installed;
     installed << std::ifstream(FL_I18N_LCDATA_FILE).rdbuf();
@@ -138,21 +138,19 @@ TEST_F(LcDataXmlTest, TheInstalledFile) {
 }
 
 TEST_F(LcDataXmlTest, FilesThatCannotBeReadAndHandlersThatThrow) {
-    auto const parse = [&](std::string const& name) {
-        parseLcData(database_, filesystem::native_path(name));
-    };
+    auto const parse = [&](std::string const& name) { parseLcData(database_, native_path(name)); };
     std::string const here = root().string();
     for (std::string const& name : {here + "/missing", ""s, here + "\0"s})
-        EXPECT_EQ(testing::failure<LcRscOpenFileFailure>(parse, name), "fl:i18n:LcRscOpenFileFailure");
+        EXPECT_EQ(failure<LcRscOpenFileFailure>(parse, name), "fl:i18n:LcRscOpenFileFailure");
     EXPECT_EQ(LcRscOpenFileFailure("/\xC3\xA4 ~\t").message(), "Failed to open file /C3A4 ~9.");
-    EXPECT_EQ(testing::failure<LcRscFileReadFailure>(parse, here), "fl:i18n:LcRscFileReadFailure");
+    EXPECT_EQ(failure<LcRscFileReadFailure>(parse, here), "fl:i18n:LcRscFileReadFailure");
     auto const path = write("<lcdata/>");
     no_parser = true;
-    EXPECT_EQ(testing::failure<LcRscParserCreationFailure>(parse, path.string()),
+    EXPECT_EQ(failure<LcRscParserCreationFailure>(parse, path.string()),
               "fl:i18n:LcRscParserCreationFailure");
     no_parser = false;
     throwing_handler handler(database_);
-    EXPECT_EQ(testing::failure<std::range_error>([&] { parseXmlDocument(handler, path); }), "mine");
+    EXPECT_EQ(failure<std::range_error>([&] { parseXmlDocument(handler, path); }), "mine");
 }
 
 // No element undoes another one here, so what a part of the document does is part of what all of it does.
@@ -190,7 +188,7 @@ TEST_F(LcDataXmlTest, DamagedDocumentsApplyWhatStandsBeforeTheDamage) {
 }
 
 /// `count` copies; each "@" in them is the number of the copy, and each "&" a reference to the entity before.
-std::string repeated(std::string const& text, int count) {
+static std::string repeated(std::string const& text, int count) {
     std::string result;
     for (int i = 0; i < count; ++i)
         for (char const c : text)
@@ -220,6 +218,3 @@ TEST_F(LcDataXmlTest, HostileAndLargeDocuments) {
     for (auto const& [text, error] : rows)
         EXPECT_EQ(load(text), error) << text.substr(0, 200);
 }
-
-} // namespace
-} // namespace fl::i18n::lcmgmt
