@@ -44,8 +44,7 @@ TEST_F(CatalogXml, Entries) {
         {"<entry key='k'>a&#10;b &e;</entry>", {{"k", "a b in & out"}}},
         {"<entry key='k'>a \t&#13;<![CDATA[b]]>\n\xC2\x85</entry>", {{"k", "a b \xC2\x85"}}},
         {"<entry key='k'>a<!-- no\nline -->b<?no line?>c</entry>", {{"k", "abc"}}},
-        {"<entry key='K\xC3\xA4'>1</entry><entry key='k'>2</entry>", {{"K\xC3\xA4", "1"}, {"k", "2"}}},
-    };
+        {"<entry key='K\xC3\xA4'>1</entry><entry key='k'>2</entry>", {{"K\xC3\xA4", "1"}, {"k", "2"}}}};
     for (auto const& [entries, expected] : rows) {
         EXPECT_TRUE(load(catalog(entries))) << entries;
         EXPECT_EQ(texts_, expected) << entries;

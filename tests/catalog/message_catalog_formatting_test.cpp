@@ -31,20 +31,18 @@ TEST(GetFormattedMessage, FillsHolesInTheOrderOfTheirNumbers) {
         ustring message;
         holes values;
         ustring text;
-    } const rows[] = {
-        {u"it's 'quoted'", {}, u"it's 'quoted'"},
-        {u"it''s", {}, u"it's"},
-        {u"'{0}' {0}", texts(1), u"{0} A"},
-        {u"{0} and {0}", texts(1), u"A and A"},
-        {u"{2} {0}", texts(2), u"B A"},
-        {u"{10} {9}", texts(2), u"B A"},
-        {u"{b} {a}", texts(2), u"A B"},
-        {u"{1_b} {1_b} {1_a} {0_c}", texts(3), u"B B C A"},
-        {u"{0,select,A{a}other{b}}", texts(1), u"a"},
-        {u"{0,number,#,##0}", {1234567LL}, u"1,234,567"},
-        {u"{0}", {std::numeric_limits<long long>::min()}, u"-9223372036854775808"},
-        {u"{0}{1}", {"\xC3\xA4\xFF"s, u"\U0001F600"}, u"\u00e4\uFFFD\U0001F600"},
-    };
+    } const rows[] = {{u"it's 'quoted'", {}, u"it's 'quoted'"},
+                      {u"it''s", {}, u"it's"},
+                      {u"'{0}' {0}", texts(1), u"{0} A"},
+                      {u"{0} and {0}", texts(1), u"A and A"},
+                      {u"{2} {0}", texts(2), u"B A"},
+                      {u"{10} {9}", texts(2), u"B A"},
+                      {u"{b} {a}", texts(2), u"A B"},
+                      {u"{1_b} {1_b} {1_a} {0_c}", texts(3), u"B B C A"},
+                      {u"{0,select,A{a}other{b}}", texts(1), u"a"},
+                      {u"{0,number,#,##0}", {1234567LL}, u"1,234,567"},
+                      {u"{0}", {std::numeric_limits<long long>::min()}, u"-9223372036854775808"},
+                      {u"{0}{1}", {"\xC3\xA4\xFF"s, u"\U0001F600"}, u"\u00e4\uFFFD\U0001F600"}};
     for (auto const& row : rows)
         EXPECT_EQ(format(row.message, row.values), row.text) << testing::PrintToString(row.message);
 }

@@ -77,8 +77,7 @@ TEST_F(MessageIdCompletion, CountsWhatStandsBeforeABreak) {
         {"<entry x='key' y='e:two'/>" + one, "one: "},           // a value is read as a name
         {one + "<entry x='key'/><entry key='e:two'/>", "one: "}, // at the end, too
         {one + "<entry key='e:t\xC3\xA4'/>", ""},                // a failure
-        {one + "&x;<entry key='e:two'/>", "one: "},
-    };
+        {one + "&x;<entry key='e:two'/>", "one: "}};
     for (auto const& [entries, expected] : rows) {
         file(maps + "e/catalog_map.xml", "<MessageCatalogMap>" + entries + "</MessageCatalogMap>");
         EXPECT_EQ(expected, completions(u"e:")) << entries;

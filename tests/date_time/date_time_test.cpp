@@ -12,8 +12,7 @@ TEST(DateTime, NamedFormats) {
         {DATE_FORMAT_SIMPLE, u"2002-Jan-31 10:00:01.120000"},
         {DATE_FORMAT_ISO, u"20020131T100001.120000"},
         {DATE_FORMAT_ISO_EXTENDED, u"2002-01-31T10:00:01.120000"},
-        {DATE_FORMAT_UTC_STAMP, u"2002-01-31T10:00:01Z"},
-    };
+        {DATE_FORMAT_UTC_STAMP, u"2002-01-31T10:00:01Z"}};
     for (auto const& [format, written] : rows) {
         SCOPED_TRACE(format);
         EXPECT_EQ(written, to_ustring(time_of_test, format));
@@ -41,8 +40,7 @@ TEST(DateTime, UnixTimeIsCutOffTowardsZero) {
     std::pair<char const*, std::time_t> const rows[] = {
         {"1969-12-31 23:59:59.5", 0},          {"1969-12-31 23:59:58.999999", -1},
         {"1970-01-01 00:00:01.999999", 1},     {"2038-01-19 03:14:08", 2147483648},
-        {"1400-01-01 00:00:00", -17987443200}, {"9999-12-31 23:59:59", 253402300799},
-    };
+        {"1400-01-01 00:00:00", -17987443200}, {"9999-12-31 23:59:59", 253402300799}};
     for (auto const& [time, expected] : rows)
         EXPECT_EQ(expected, ptime_to_time_t(boost::posix_time::time_from_string(time))) << time;
     EXPECT_EQ(9223372036854, ptime_to_time_t(boost::posix_time::pos_infin));

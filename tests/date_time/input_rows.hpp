@@ -71,7 +71,6 @@ inline input_row const input_rows[] = {
     {"UTC_STAMP", u"2020-01-01T10:00:00Z trailing", "not-a-date-time"},
     {"UTC_STAMP", u"2020-01-01", "2020-Jan-01 00:00:00"},
     {"UTC_STAMP", u"+infinity and more", "not-a-date-time"},
-    {"NO_FORMAT", u"2020-01-01T10:00:00Z", "not-a-date-time"},
-};
+    {"NO_FORMAT", u"2020-01-01T10:00:00Z", "not-a-date-time"}};
 
 } // namespace fl::testing

@@ -104,13 +104,11 @@ TEST(TimeZoneConversion, AgreesWithTheSystemsZoneData) {
 TEST(TimeZoneConversion, FractionsPassThrough) {
     struct {
         char const *zone_id, *local, *utc;
-    } const rows[] = {
-        {"America/New_York", "2021-07-01 12:00:00.25", "2021-07-01 16:00:00.25"},
-        {"Etc/UTC", "1969-12-31 23:59:59.5", "1969-12-31 23:59:59.5"},
-        {"Asia/Kolkata", "1969-12-31 23:59:59.5", "1969-12-31 18:29:59.5"},
-        {"Europe/Vienna", "9999-07-01 00:00:00.9", "9999-06-30 22:00:00.9"},
-        {"GMT+14", "1400-01-02 00:00:00", "1400-01-01 10:00:00"},
-    };
+    } const rows[] = {{"America/New_York", "2021-07-01 12:00:00.25", "2021-07-01 16:00:00.25"},
+                      {"Etc/UTC", "1969-12-31 23:59:59.5", "1969-12-31 23:59:59.5"},
+                      {"Asia/Kolkata", "1969-12-31 23:59:59.5", "1969-12-31 18:29:59.5"},
+                      {"Europe/Vienna", "9999-07-01 00:00:00.9", "9999-06-30 22:00:00.9"},
+                      {"GMT+14", "1400-01-02 00:00:00", "1400-01-01 10:00:00"}};
     for (auto const& [id, local, utc] : rows) {
         EXPECT_EQ(time_from_string(utc), to_utc(time_from_string(local), zone(id))) << id << ' ' << local;
         EXPECT_EQ(time_from_string(local), from_utc(time_from_string(utc), zone(id))) << id << ' ' << utc;

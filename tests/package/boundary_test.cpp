@@ -37,8 +37,7 @@ TEST(Boundary, ExceptionsAreCaughtByTheirClass) {
         {"fl::i18n::timezone::invalid_timezone_id",
          failure<time_zone::invalid_timezone_id>([] { time_zone::timezone const zone("No/SuchZone"); })},
         {"fl:filesystem:PathNotFound",
-         failure<fl::filesystem::PathNotFound>([] { fl::filesystem::canonical(u"/no/such/file", u""); })},
-    };
+         failure<fl::filesystem::PathNotFound>([] { fl::filesystem::canonical(u"/no/such/file", u""); })}};
     for (auto const& [expected, actual] : rows)
         EXPECT_EQ(expected, actual);
 }

@@ -36,11 +36,10 @@ TEST(Macos, AVolumeTellsItsFlags) {
         std::int32_t format;
         std::uint32_t flags;
         int error;
-    } const rows[] = {
-        {"apfs", sensitive, 16, 0}, {"apfs", insensitive, 17, 0},     {"apfs", no_answer, 16, 0},
-        {"hfs", sensitive, 2, 0},   {"hfs", insensitive, 3, 0},       {"msdos", insensitive, 1, 0},
-        {"nfs", no_answer, 0, 0},   {nullptr, no_answer, 99, ENOENT},
-    };
+    } const rows[] = {{"apfs", sensitive, 16, 0}, {"apfs", insensitive, 17, 0},
+                      {"apfs", no_answer, 16, 0}, {"hfs", sensitive, 2, 0},
+                      {"hfs", insensitive, 3, 0}, {"msdos", insensitive, 1, 0},
+                      {"nfs", no_answer, 0, 0},   {nullptr, no_answer, 99, ENOENT}};
     for (auto const& row : rows) {
         std::uint32_t flags = 99;
         fake_file_system = row.file_system;
@@ -87,8 +86,7 @@ TEST_F(MacosPreferences, WhatCannotBeReadIsEmpty) {
     std::tuple<char const*, std::string (services::*)() const, objects> const rows[] = {
         {locale_key, &services::user_locale, {text, nullptr, list, fake_cf.string(u"\u65E5")}},
         {user_key, &services::user_language, lists},
-        {application_key, &services::application_language, lists},
-    };
+        {application_key, &services::application_language, lists}};
     for (auto const& [key, ask, values] : rows) {
         for (auto const* const value : values) {
             fake_cf.preferences = {{key, value}};

@@ -31,8 +31,7 @@ TEST(Environment, SetsValuesAsUtf8ByEitherKindOfName) {
         {u"FL_X", u"a\0z"s, true, true, EINVAL, "old"},
         {u"FL_X\0Y"s, u"new", true, true, EINVAL, "old"},
         {u"FL_X=Y", u"new", true, true, EINVAL, "old"},
-        {u"", u"new", true, true, EINVAL, "old"},
-    };
+        {u"", u"new", true, true, EINVAL, "old"}};
     for (auto const& row : rows) {
         SCOPED_TRACE(&row - rows);
         by_either_name(row.name, [&](auto const& name) {
@@ -51,14 +50,12 @@ TEST(Environment, ReadsAndRemovesByEitherKindOfName) {
         char const* value; // of FL_\u00dc; null: not set
         ustring text;
         int error = 0;
-    } const rows[] = {
-        {u"FL_\u00dc", "Gr\xc3\xbc\xc3\x9f", u"Gr\u00fc\u00df"},
-        {u"FL_\u00dc", "a\xff\xc3", u"a\ufffd\ufffd"},
-        {u"FL_\u00dc", "", u""},
-        {u"FL_\u00dc", nullptr, u""},
-        {u"FL_\u00dc\0"s, "old", u"", EINVAL},
-        {u"", "old", u"", EINVAL},
-    };
+    } const rows[] = {{u"FL_\u00dc", "Gr\xc3\xbc\xc3\x9f", u"Gr\u00fc\u00df"},
+                      {u"FL_\u00dc", "a\xff\xc3", u"a\ufffd\ufffd"},
+                      {u"FL_\u00dc", "", u""},
+                      {u"FL_\u00dc", nullptr, u""},
+                      {u"FL_\u00dc\0"s, "old", u"", EINVAL},
+                      {u"", "old", u"", EINVAL}};
     for (auto const& row : rows) {
         SCOPED_TRACE(&row - rows);
         by_either_name(row.name, [&](auto const& name) {

@@ -68,17 +68,15 @@ TEST_F(DirectoryIteratorTest, WildcardsFollowTheVolume) {
         std::string name;
         ustring wildcard;
         volumes found_on;
-    } const rows[] = {
-        {"a.txt", u"*.TXT", without_case},
-        {"a.txt", u"a*t", all},
-        {"caf\u00E9", u"*\u00E9", all},
-        {"bad\xFF", u"B*\uFFFD", without_case},
-        {"caf\u00E9", u"cafe\u0301*", by_letter},
-        {"e\u0301t\u00E9", u"\u00E9t*", by_letter},
-        {"e\u0301t\u00E9", u"\u00C9T*\u0301", decomposed_without_case},
-        {slow + "xslow", u"*x*\uFFFD", none},
-        {slow + "slow", u"*sl*", all},
-    };
+    } const rows[] = {{"a.txt", u"*.TXT", without_case},
+                      {"a.txt", u"a*t", all},
+                      {"caf\u00E9", u"*\u00E9", all},
+                      {"bad\xFF", u"B*\uFFFD", without_case},
+                      {"caf\u00E9", u"cafe\u0301*", by_letter},
+                      {"e\u0301t\u00E9", u"\u00E9t*", by_letter},
+                      {"e\u0301t\u00E9", u"\u00C9T*\u0301", decomposed_without_case},
+                      {slow + "xslow", u"*x*\uFFFD", none},
+                      {slow + "slow", u"*sl*", all}};
     for (auto const& row : rows) {
         auto const file = tree.file(row.name);
         for (std::uint32_t const volume : all) {

@@ -212,13 +212,11 @@ TEST_F(RecursiveDirectoryIteratorTest, AsksTheDiskWhereTheDirectoryDoesNotTell) 
     struct {
         std::string name;
         treatment of_unknown_type, of_directory;
-    } const rows[] = {
-        {"directory", treatment::show_and_visit, treatment::show_and_visit},
-        {"directory/file", treatment::show, treatment::show},
-        {"link", treatment::show, treatment::show},
-        {"gone", treatment::drop, treatment::drop},
-        {std::string(256, 'n'), treatment::show, treatment::show_and_visit},
-    };
+    } const rows[] = {{"directory", treatment::show_and_visit, treatment::show_and_visit},
+                      {"directory/file", treatment::show, treatment::show},
+                      {"link", treatment::show, treatment::show},
+                      {"gone", treatment::drop, treatment::drop},
+                      {std::string(256, 'n'), treatment::show, treatment::show_and_visit}};
     for (auto const& row : rows) {
         EXPECT_EQ(detail::treatment_of(DT_UNKNOWN, top.get(), row.name.c_str()), row.of_unknown_type)
             << row.name;

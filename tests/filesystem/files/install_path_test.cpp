@@ -24,17 +24,15 @@ struct InstallPathTest : testing::Test, fl::testing::volume_double {
 };
 
 TEST_F(InstallPathTest, WalksUpToTheDirectoryPair) {
-    std::pair<char const*, char const*> const rows[] = {
-        {"/opt/x/bin/" DIR "/lib.so", "/opt/x"},
-        {"//\xFFx//bin/" DIR "//lib.so", "/\xFFx"},
-        {"/bin/" DIR "/lib.so", "/"},
-        {"/x/bin/" DIR "/y/z/lib.so", "/x"},
-        {"/x/bin/" DIR "/" DIR "/lib.so", "/x"},
-        {"/x/" DIR "/lib.so", ""},
-        {"/" DIR "/lib.so", ""},
-        {"x/bin/other/lib.so", ""},
-        {"", ""},
-    };
+    std::pair<char const*, char const*> const rows[] = {{"/opt/x/bin/" DIR "/lib.so", "/opt/x"},
+                                                        {"//\xFFx//bin/" DIR "//lib.so", "/\xFFx"},
+                                                        {"/bin/" DIR "/lib.so", "/"},
+                                                        {"/x/bin/" DIR "/y/z/lib.so", "/x"},
+                                                        {"/x/bin/" DIR "/" DIR "/lib.so", "/x"},
+                                                        {"/x/" DIR "/lib.so", ""},
+                                                        {"/" DIR "/lib.so", ""},
+                                                        {"x/bin/other/lib.so", ""},
+                                                        {"", ""}};
     for (auto const& [module, root] : rows) {
         path = module;
         EXPECT_EQ(get_base_path(nullptr), root) << module;

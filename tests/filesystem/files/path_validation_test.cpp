@@ -36,10 +36,8 @@ TEST(PathValidation, CountsWhatTheVolumeStores) {
     struct {
         ustring character;
         std::size_t utf8_bytes, nfd_units;
-    } const rows[] = {
-        {u"x", 1, 1},      {u"\u00E9", 2, 2}, {u"\uAC01", 3, 3},     {u"\u4E00", 3, 1},
-        {u"\xD800", 1, 1}, {u"\xDFFF", 1, 1}, {u"\U0001F600", 4, 2}, {u"\U0002F800", 4, 1},
-    };
+    } const rows[] = {{u"x", 1, 1},      {u"\u00E9", 2, 2}, {u"\uAC01", 3, 3},     {u"\u4E00", 3, 1},
+                      {u"\xD800", 1, 1}, {u"\xDFFF", 1, 1}, {u"\U0001F600", 4, 2}, {u"\U0002F800", 4, 1}};
     for (auto const& [character, bytes, units] : rows)
         for (unsigned const mode : {0u, 2u, 16u, 6u, 7u}) {
             SCOPED_TRACE(testing::Message() << std::hex << +character.back() << " " << mode);

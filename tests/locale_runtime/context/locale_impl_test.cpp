@@ -58,12 +58,10 @@ TEST(LocaleImpl, PaperAndUnitsFollowTheTimeCategory) {
         char const *time, *others;
         QnLcOptDataCtx::PaperSize paper;
         QnLcOptDataCtx::MeasurementSystem units;
-    } const rows[] = {
-        {"de_DE", "en_US", QnLcOptDataCtx::a4_paper, QnLcOptDataCtx::metric_units},
-        {"en_US", "de_DE", QnLcOptDataCtx::other_paper, QnLcOptDataCtx::us_units},
-        {"en_GB", "en_US", QnLcOptDataCtx::a4_paper, QnLcOptDataCtx::uk_units},
-        {"en_US_POSIX", "de_DE", QnLcOptDataCtx::other_paper, QnLcOptDataCtx::us_units},
-    };
+    } const rows[] = {{"de_DE", "en_US", QnLcOptDataCtx::a4_paper, QnLcOptDataCtx::metric_units},
+                      {"en_US", "de_DE", QnLcOptDataCtx::other_paper, QnLcOptDataCtx::us_units},
+                      {"en_GB", "en_US", QnLcOptDataCtx::a4_paper, QnLcOptDataCtx::uk_units},
+                      {"en_US_POSIX", "de_DE", QnLcOptDataCtx::other_paper, QnLcOptDataCtx::us_units}};
     for (auto const& [time, others, paper, units] : rows) {
         auto const locale = QnLocale::createLocale(others, QnLocale::time, time);
         EXPECT_EQ(std::get<1>(locale->getLcOptData(QnLcOptDataCtx::paper_size)), paper) << time;
