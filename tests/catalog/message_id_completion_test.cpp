@@ -1,6 +1,7 @@
 // The registry is process-wide: each test runs in a process of its own.
 
 #include "catalog/catalog_tree.hpp"
+#include "support/rows.hpp"
 
 #include <fl/i18n/message_id_completion.hpp>
 
@@ -32,52 +33,39 @@ struct MessageIdCompletion : fl::testing::catalog_tree {
              "<MessageCatalogMap version='1'><entry key='" + entries + "'/></MessageCatalogMap>");
     }
 
-    /// In order of code units, each followed by a blank.
+    /// In order of code units, each followed by a comma.
     static std::string completions(ustring const& input) {
         auto const list = getMessageIdCompletions(input).completions;
         std::string result;
         for (ustring const& text : std::multiset<ustring>(list.begin(), list.end()))
-            result.append(text.begin(), text.end()) += ' ';
+            result.append(text.begin(), text.end()) += ',';
         return result;
     }
 };
 
 TEST_F(MessageIdCompletion, ListsWhatMayFollow) {
-    struct {
-        ustring input;
-        std::string completions;
-        std::int32_t position;
-    } const rows[] = {
-        {u"", "KESTRUNE: app: c: ", 0},
-        {u"C", "c: ", 0},
-        {u"c:", "xa: xa: xa: yb: ", 2},
-        {u"c:xa:", "deeper: ", 5}, // the map of "c" is not asked where "c/xa" has one
-        {u"c:xa:n1:Ho", "hole ", 8},
-        {u"c:xa:n2:", "", 8}, // listed, but there is no such catalog
-        {u"c:Y", "yb: ", 2},
-        {u"C:X", "", 2},
-        {u"KESTRUNE:h", "hole ", 9},
-        {u"c:../c:", "", 7},
-        {u"\u00E4:", "", 0}, // outside ASCII: a failure...
-        {u"c:xa:n1:\u00E4", "", 0},
-        {u"c:nope:\u00E4", "", 7}, // ...unless no key is compared with it
-    };
-    for (auto const& row : rows) {
-        SCOPED_TRACE(testing::PrintToString(row.input));
-        EXPECT_EQ(row.completions, completions(row.input));
-        EXPECT_EQ(row.position, getMessageIdCompletions(row.input).position);
+    // The map of "c" is not asked where "c/xa" has one; "c:xa:n2" is listed, but there is no such catalog. What is not
+    // ASCII is a failure, unless no key is compared with it.
+    for (auto const& [text, expected, position] : fl::testing::rows<3>(
+             "~ KESTRUNE:,app:,c:, 0  C c:, 0  c: xa:,xa:,xa:,yb:, 2  c:xa: deeper:, 5  c:xa:n1:Ho hole, 8  "
+             "c:xa:n2: ~ 8  c:Y yb:, 2  C:X ~ 2  KESTRUNE:h hole, 9  c:../c: ~ 7  \u00E4: ~ 0  "
+             "c:xa:n1:\u00E4 ~ 0  c:nope:\u00E4 ~ 7")) {
+        SCOPED_TRACE(text);
+        ustring const input = std::filesystem::path(text).u16string();
+        EXPECT_EQ(expected, completions(input));
+        EXPECT_EQ(position, std::to_string(getMessageIdCompletions(input).position));
     }
 }
 
 TEST_F(MessageIdCompletion, CountsWhatStandsBeforeABreak) {
     std::string const one = "<entry key='e:one'/>";
     std::pair<std::string, char const*> const rows[] = {
-        {one + "<x/><entry key='e:two'/>", "one: "},
-        {one + "<entry key='e:two'><entry key='e:three'/></entry>", "one: two: "},
-        {"<entry x='key' y='e:two'/>" + one, "one: "},           // a value is read as a name
-        {one + "<entry x='key'/><entry key='e:two'/>", "one: "}, // at the end, too
+        {one + "<x/><entry key='e:two'/>", "one:,"},
+        {one + "<entry key='e:two'><entry key='e:three'/></entry>", "one:,two:,"},
+        {"<entry x='key' y='e:two'/>" + one, "one:,"},           // a value is read as a name
+        {one + "<entry x='key'/><entry key='e:two'/>", "one:,"}, // at the end, too
         {one + "<entry key='e:t\xC3\xA4'/>", ""},                // a failure
-        {one + "&x;<entry key='e:two'/>", "one: "}};
+        {one + "&x;<entry key='e:two'/>", "one:,"}};
     for (auto const& [entries, expected] : rows) {
         file(maps + "e/catalog_map.xml", "<MessageCatalogMap>" + entries + "</MessageCatalogMap>");
         EXPECT_EQ(expected, completions(u"e:")) << entries;
@@ -91,14 +79,14 @@ TEST_F(MessageIdCompletion, CountsWhatStandsBeforeABreak) {
         for (std::string const& content : {whole.substr(0, i), damaged}) {
             file(maps + "e/catalog_map.xml", content);
             std::string const found = completions(u"e:");
-            EXPECT_TRUE(i < end_of_one || found.find("one: ") != found.npos) << content;
+            EXPECT_TRUE(i < end_of_one || found.find("one:,") != found.npos) << content;
         }
     }
     std::string bomb = "<!DOCTYPE x [<!ENTITY a 'e:one'>";
     for (char name = 'b'; name <= 'z'; ++name)
         bomb += std::string("<!ENTITY ") + name + " '&" + char(name - 1) + ";&" + char(name - 1) + ";'>";
     file(maps + "e/catalog_map.xml", bomb + "]><MessageCatalogMap>" + one + "<entry key='&z;'/>");
-    EXPECT_EQ("one: ", completions(u"e:"));
+    EXPECT_EQ("one:,", completions(u"e:"));
 }
 
 TEST_F(MessageIdCompletion, EndsInALoopOfLinks) {
@@ -113,6 +101,6 @@ TEST_F(MessageIdCompletion, EndsInALoopOfLinks) {
     for (int level = 0; level < 1000; ++level)
         deep += "/d";
     map(deep, "c:deep");
-    EXPECT_EQ("deep: linked: xa: xa: xa: yb: ", completions(u"c:"));
-    EXPECT_EQ("KESTRUNE: app: c: ", completions(u""));
+    EXPECT_EQ("deep:,linked:,xa:,xa:,xa:,yb:,", completions(u"c:"));
+    EXPECT_EQ("KESTRUNE:,app:,c:,", completions(u""));
 }

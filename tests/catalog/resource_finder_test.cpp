@@ -1,3 +1,4 @@
+#include "support/rows.hpp"
 #include "support/temp_tree.hpp"
 
 #include <fl/i18n/locale_impl.hpp>
@@ -24,32 +25,26 @@ struct ResourceFinder : ::testing::Test, fl::testing::temp_tree {
 };
 
 TEST_F(ResourceFinder, TakesTheFirstFileOfTheFirstLocale) {
-    struct {
-        char const* locale;
-        bool use_fallback;
-        ustring pattern, file;
-        char const* found_locale;
-    } const rows[] = {
-        {"de_AT", true, u"%S/x.xml", u"b/de/x.xml", "de"}, // the locale decides before the directory
-        {"fr_FR", true, u"%S/x.xml", u"a/en/x.xml", "en"},
-        {"de_CH", true, u"%S/only_ch.xml", u"b/de_CH/only_ch.xml", "de_CH"},
-        {"fr_FR", false, u"%S/x.xml", u"b/x.xml", ""}, // the empty candidate: a file without a locale
-        {"fr_FR", false, u"help_%S.html", u"a/help.html", ""},
-        {"fr_FR", false, u"help%S.html", u"a/help.html", ""},
-        {"fr_FR", true, u"help_%S.html", u"a/help_en.html", "en"},
-        {"de_AT", true, u"plain.xml", u"", "de_AT"}, // no marker: nothing, though the file exists
-        {"de_AT", true, u"%S/%S.xml", u"", ""},      // only the first marker is replaced
-    };
+    // A locale, whether it falls back, a pattern, the file, whose locale. The locale decides before the directory; an
+    // empty one stands for a file without a locale. Without a marker nothing is found, though the file exists, and only
+    // the first marker is replaced.
     std::string found = "before";
-    for (auto const& row : rows) {
-        SCOPED_TRACE(row.locale + testing::PrintToString(row.pattern));
-        auto const locale = QnLocale::createLocale(row.locale);
-        resource_finder const finder(bases_, *locale, row.use_fallback, u"");
-        EXPECT_EQ(below(row.file), finder.find(row.pattern));
-        EXPECT_EQ(row.found_locale, finder.get_locale());
-        EXPECT_EQ(below(row.file),
-                  resource_finder::find_resource(bases_, row.pattern, found, *locale, row.use_fallback, u""));
-        EXPECT_EQ(row.file.empty() ? "" : row.found_locale, found);
+    for (auto const& [name, falls_back, marked, file, file_locale] : fl::testing::rows<5>(R"(
+        de_AT yes %S/x.xml b/de/x.xml de         de_CH yes %S/only_ch.xml b/de_CH/only_ch.xml de_CH
+        fr_FR yes %S/x.xml a/en/x.xml en         fr_FR no %S/x.xml b/x.xml ~
+        fr_FR no help_%S.html a/help.html ~      fr_FR no help%S.html a/help.html ~
+        fr_FR yes help_%S.html a/help_en.html en de_AT yes plain.xml ~ de_AT  de_AT yes %S/%S.xml ~ ~)")) {
+        SCOPED_TRACE(name + ' ' + falls_back + ' ' + marked);
+        bool const use_fallback = falls_back == "yes";
+        auto const locale = QnLocale::createLocale(name);
+        ustring const pattern(marked.begin(), marked.end());
+        upath const expected = below(ustring(file.begin(), file.end()));
+        resource_finder const finder(bases_, *locale, use_fallback, u"");
+        EXPECT_EQ(expected, finder.find(pattern));
+        EXPECT_EQ(file_locale, finder.get_locale());
+        EXPECT_EQ(expected,
+                  resource_finder::find_resource(bases_, pattern, found, *locale, use_fallback, u""));
+        EXPECT_EQ(file.empty() ? "" : file_locale, found);
     }
     EXPECT_EQ(below(u"b/de/x.xml"),
               resource_finder::find_resource(text(u"b//%S/x.xml"), found, *german_, true, u""));

@@ -26,16 +26,14 @@ inline i18n::date_time::ptime read(input_row const& row) {
 }
 
 /// The time that is read, or the class of the exception.
-inline std::string outcome(input_row const& row) {
-    try {
-        return to_simple_string(read(row));
-    } catch (std::out_of_range const&) {
-        return "out of range";
-    } catch (boost::bad_lexical_cast const&) {
-        return "bad cast";
-    } catch (fl::i18n::CvtInvalidCharacter const&) {
-        return "bad character";
-    }
+inline std::string outcome(input_row const& row) try {
+    return to_simple_string(read(row));
+} catch (std::out_of_range const&) {
+    return "out of range";
+} catch (boost::bad_lexical_cast const&) {
+    return "bad cast";
+} catch (fl::i18n::CvtInvalidCharacter const&) {
+    return "bad character";
 }
 
 inline input_row const input_rows[] = {

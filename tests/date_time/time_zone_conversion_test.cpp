@@ -38,8 +38,7 @@ constexpr char names[] = R"(
     Pacific/Auckland Pacific/Chatham Pacific/Easter Pacific/Honolulu Pacific/Kiritimati Pacific/Norfolk
     Pacific/Tongatapu)";
 
-constexpr std::time_t start_1975 = 157'766'400;
-constexpr std::time_t end_2021 = 1'640'995'200;
+constexpr std::time_t start_1975 = 157'766'400, end_2021 = 1'640'995'200;
 
 /// The offset from UTC in seconds that the C library knows for the zone in TZ.
 std::time_t offset(std::time_t utc) {

@@ -15,27 +15,28 @@
 using namespace fl::i18n;
 using fl::testing::failure;
 
+template <class Failure, class Object>
+static std::string refused(auto const&... arguments) {
+    return failure<Failure>([&] { Object const made(arguments...); });
+}
+
 TEST(Boundary, ExceptionsAreCaughtByTheirClass) {
-    fl::ustring const two_holes = u"{0} of {1}";
+    using Root = MessageCatalog::MessageCatalogIncorrectRoot;
+    using Count = MessageCatalog::IncorrectHoleCount;
+    std::vector<fl::ustring> const none;
     std::pair<char const*, std::string> const rows[] = {
-        {"Bad Catalog ID", failure<CatalogID::badCatalogIDException>([] { CatalogID const id("a"); })},
-        {"Bad Message ID", failure<MessageID::badMessageIDException>([] { MessageID const id("a:b"); })},
-        {"Incorrect Message Root Set", failure<MessageCatalog::MessageCatalogIncorrectRoot>([] {
-             MessageCatalog::MessageCatalogInit(std::vector<fl::ustring>());
-         })},
+        {"Bad Catalog ID", refused<CatalogID::badCatalogIDException, CatalogID>("a")},
+        {"Bad Message ID", refused<MessageID::badMessageIDException, MessageID>("a:b")},
+        {"Incorrect Message Root Set", failure<Root>([&] { MessageCatalog::MessageCatalogInit(none); })},
         {"Incorrect number of parameters supplied. Expected : 2 but found : 1",
-         failure<MessageCatalog::IncorrectHoleCount>(
-             [&] { MessageCatalog::GetFormattedMessage(two_holes, {1LL}); })},
-        {"Invalid argument error.",
-         failure<CtypeInvalidArgument>([] { character_handling_mode_context const mode(32); })},
-        {"fl:i18n:RegexInvalidArgument",
-         failure<RegexInvalidArgument>([] { pattern_match const m(u"", 0U); })},
+         failure<Count>([] { MessageCatalog::GetFormattedMessage(u"{0} of {1}", {1LL}); })},
+        {"Invalid argument error.", refused<CtypeInvalidArgument, character_handling_mode_context>(32U)},
+        {"fl:i18n:RegexInvalidArgument", refused<RegexInvalidArgument, pattern_match>(u"", 0U)},
         {"fl:i18n:QnLcInvLcName", failure<QnLcInvLcName>([] { QnLocale::createLocale("xx_nonsense"); })},
-        {"Invalid encoding name specified.", failure<CvtInvalidEncodingName>([] {
-             codecvt_ustring_to_string const converter("no-such-encoding", true);
-         })},
+        {"Invalid encoding name specified.",
+         refused<CvtInvalidEncodingName, codecvt_ustring_to_string>("no", true)},
         {"fl::i18n::timezone::invalid_timezone_id",
-         failure<time_zone::invalid_timezone_id>([] { time_zone::timezone const zone("No/SuchZone"); })},
+         refused<time_zone::invalid_timezone_id, time_zone::timezone>("No/SuchZone")},
         {"fl:filesystem:PathNotFound",
          failure<fl::filesystem::PathNotFound>([] { fl::filesystem::canonical(u"/no/such/file", u""); })}};
     for (auto const& [expected, actual] : rows)

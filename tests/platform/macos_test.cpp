@@ -28,9 +28,7 @@ struct MacosPreferences : testing::Test {
 };
 
 TEST(Macos, AVolumeTellsItsFlags) {
-    constexpr std::int32_t no_answer = -1;
-    constexpr std::int32_t sensitive = 0x100;
-    constexpr std::int32_t insensitive = 0x80;
+    constexpr std::int32_t no_answer = -1, sensitive = 0x100, insensitive = 0x80;
     struct {
         char const* file_system;
         std::int32_t format;

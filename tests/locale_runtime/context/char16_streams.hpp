@@ -48,8 +48,7 @@ inline std::string char16_fault(std::locale const& locale) {
         char16_t const c = static_cast<char16_t>(unit);
         char const ascii = unit < 0x80 ? static_cast<char>(c) : '\x80'; // which has no class and no case
         auto const widened = [&](char to) { return to == '\x80' ? c : static_cast<char16_t>(to); };
-        char16_t upper = c;
-        char16_t lower = c;
+        char16_t upper = c, lower = c;
         mask::mask classes{};
         wide.toupper(&upper, &upper + 1);
         wide.tolower(&lower, &lower + 1);

@@ -50,13 +50,11 @@ TEST(Locale, PartsAreThoseOfTheNameHoweverItCame) {
 }
 
 /// The argument of the refusal, or "ok".
-static std::string refused(auto const& call) {
-    try {
-        call();
-    } catch (QnLcInvLcName const& e) {
-        return e.argument();
-    }
+static std::string refused(auto const& call) try {
+    call();
     return "ok";
+} catch (QnLcInvLcName const& e) {
+    return e.argument();
 }
 
 TEST(Locale, EachFormRefusesBadNames) {

@@ -25,13 +25,11 @@ extern "C" char const* __lsan_default_suppressions() { // NOLINT(bugprone-reserv
     return "leak:__argz_add_sep\n";
 }
 
-static bool std_locale_accepts() {
-    try {
-        std::locale const user("");
-        return true;
-    } catch (std::runtime_error const&) {
-        return false;
-    }
+static bool std_locale_accepts() try {
+    std::locale const user("");
+    return true;
+} catch (std::runtime_error const&) {
+    return false;
 }
 
 /// What the C library and the standard library have: alike in a process and in the children that it starts.
