@@ -217,9 +217,8 @@ TEST_F(RecursiveDirectoryIteratorTest, AsksTheDiskWhereTheDirectoryDoesNotTell) 
                       {"link", treatment::show, treatment::show},
                       {"gone", treatment::drop, treatment::drop},
                       {std::string(256, 'n'), treatment::show, treatment::show_and_visit}};
-    for (auto const& row : rows) {
-        EXPECT_EQ(detail::treatment_of(DT_UNKNOWN, top.get(), row.name.c_str()), row.of_unknown_type)
-            << row.name;
-        EXPECT_EQ(detail::treatment_of(DT_DIR, top.get(), row.name.c_str()), row.of_directory) << row.name;
+    for (auto const& [name, of_unknown_type, of_directory] : rows) {
+        EXPECT_EQ(detail::treatment_of(DT_UNKNOWN, top.get(), name.c_str()), of_unknown_type) << name;
+        EXPECT_EQ(detail::treatment_of(DT_DIR, top.get(), name.c_str()), of_directory) << name;
     }
 }

@@ -41,15 +41,11 @@ struct TemporaryTest : testing::Test {
 
 TEST_F(TemporaryTest, TenThousandNamesAreUnique) {
     std::regex const token("[0-9a-f]{4}(-[0-9a-f]{4}){3}");
-    struct {
-        ustring directory, suffix, form; // with "*" for the token
-    } const rows[] = {
-        {u"/d", u".log", u"/d/p*.log"}, {u"d", u"log", u"d/p*.log"},     {u"/d//e//", u"", u"/d/e/p*"},
-        {u"/", u"..", u"/p*.."},        {u"", u"\u00E9", u"/p*.\u00E9"},
-    };
-    for (auto const& [directory, suffix, form] : rows) {
-        std::string const made = detail::to_filesystem(tmpfile_name(directory, u"p", suffix));
-        EXPECT_EQ(std::regex_replace(made, token, "*"), detail::to_filesystem(form));
+    auto const text = detail::from_filesystem;
+    for (auto const& [directory, suffix, form] : fl::testing::rows<3>( // with "*" for the token
+             "/d .log /d/p*.log  d log d/p*.log  /d//e// ~ /d/e/p*  / .. /p*..  ~ \u00E9 /p*.\u00E9")) {
+        std::string const made = detail::to_filesystem(tmpfile_name(text(directory), u"p", text(suffix)));
+        EXPECT_EQ(std::regex_replace(made, token, "*"), form);
     }
     std::set<ustring> names;
     while (names.size() < 10'000)
