@@ -63,15 +63,14 @@ struct LcDataXmlTest : testing::Test, fl::testing::temp_tree {
 };
 
 TEST_F(LcDataXmlTest, AppliesEachElement) {
-    EXPECT_EQ(load(R"(<?xml version="1.0" encoding="utf-8"?><lcdata a="b">ignored
+    EXPECT_EQ(0, load(R"(<?xml version="1.0" encoding="utf-8"?><lcdata a="b">ignored
         <locale name="xx" encoding="" xpg_name="X"> text <alias name="x1"/>&amp;<alias name="x2"/></locale>
         <locale name="he_IL" encoding="windows-1255" disable_user_locale="1"/>
         <locale name="he_IL"><region_alias name="IL"/><l10n disable="yes"/></locale>
         <locale name="qq"/><locale name="de_DE" encoding="ISO-8859-15"/>
         <codeset><encoding name="UTF8" jvm_encoding="UTF8"/><encoding name="never"/>
             <encoding name="Sjis" jvm_encoding="X" compat="Y"><encoding_alias name="ja"/></encoding></codeset>
-        <codeset><encoding name="Big5" compat="Y"/></codeset></lcdata>)"),
-              0);
+        <codeset><encoding name="Big5" compat="Y"/></codeset></lcdata>)"));
     for (auto const& [name, canonical, encoding, xpg_name] : fl::testing::rows<4>(R"(
         x1 xx UTF-8 X  x2 xx UTF-8 X  qq ~ UTF-8 (null)  iw he_IL windows-1255 he_IL.UTF-8
         de de_DE ISO-8859-1 de_DE.ISO8859-1)")) // the language data has the other encoding
@@ -87,9 +86,8 @@ TEST_F(LcDataXmlTest, AppliesEachElement) {
 }
 
 TEST_F(LcDataXmlTest, FailedStepsGoToTheLog) {
-    EXPECT_EQ(load(R"(<lcdata><locale name="he_IL"><alias name="he_IL"/></locale>
-        <locale name="xx_YY"><l10n disable="1"/><alias name="after"/></locale></lcdata>)"),
-              0);
+    EXPECT_EQ(0, load(R"(<lcdata><locale name="he_IL"><alias name="he_IL"/></locale>
+        <locale name="xx_YY"><l10n disable="1"/><alias name="after"/></locale></lcdata>)"));
     EXPECT_EQ(database_.get_locale_name("after"), "xx_YY");
     LcData data(database_);
     data.addLcName("", "a", "b");

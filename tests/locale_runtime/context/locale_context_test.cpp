@@ -10,6 +10,7 @@
 
 #include <fl/i18n/encoding_name.hpp>
 #include <fl/i18n/locale_context.hpp>
+#include <fl/i18n/locale_database.hpp>
 #include <fl/i18n/locale_impl.hpp>
 
 #include <gtest/gtest.h>
