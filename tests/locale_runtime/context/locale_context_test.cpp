@@ -41,7 +41,7 @@ TEST(LocaleContext, ReadsTheEnvironmentOnce) {
     EXPECT_EQ(QnLocale::classic(), *QnLocale::createLocale("C"));
     setenv("QNLOCALE_TERMINAL_ENCODING", "UTF-8", 1);
     auto const snapshot =
-        get_context_state().with_discovery([](locale_context const& found) { return found.snapshot; });
+        get_context_state().with_discovery([](auto const& found) { return found.snapshot; });
     EXPECT_EQ(snapshot, (std::map<std::string, std::string>{{"QNLOCALE_L10N_CONTROL", "OFF"}}));
 }
 
@@ -96,28 +96,21 @@ TEST(LocaleContext, PublishedKeepsEachObjectAndShowsTheOneInForce) {
 
 TEST(LocaleContext, SlotsGrowByAppendingAndKeepWhatIsReplaced) {
     locale_database const database;
-    struct {
-        char const* name;
-        bool replaces;
-        std::size_t size;
-    } const steps[] = {{"en_US_POSIX", false, 1},
-                       {"de_DE", true, 2}, // the first one is not replaced
-                       {"fr_FR", true, 2},
-                       {"ja_JP", false, 3},
-                       {"it_IT", true, 3}};
+    auto const steps = fl::testing::rows<3>( // the first one is not replaced
+        "en_US_POSIX append 1  de_DE replace 2  fr_FR replace 2  ja_JP append 3  it_IT replace 3");
     locale_slots slots;
     EXPECT_FALSE(slots.current());
     std::vector<QnLocale const*> seen;
-    for (auto const& [name, replaces, size] : steps) {
+    for (auto const& [name, way, size] : steps) {
         auto locale = std::make_unique<QnLocaleImpl>(database);
         locale->setLcName(name, "");
         auto slot = std::make_unique<global_locale_slot>(std::move(locale));
-        replaces ? slots.replace_last(std::move(slot)) : slots.append(std::move(slot));
-        EXPECT_EQ(slots.size(), size) << name;
+        way == "replace" ? slots.replace_last(std::move(slot)) : slots.append(std::move(slot));
+        EXPECT_EQ(std::to_string(slots.size()), size) << name;
         seen.push_back(&slots.current()->locale());
     }
     for (std::size_t i = 0; i < seen.size(); ++i)
-        EXPECT_EQ(seen[i]->shortName(QnLocale::time), steps[i].name);
+        EXPECT_EQ(seen[i]->shortName(QnLocale::time), steps[i][0]);
 }
 
 TEST(LocaleContext, CategoryNamesAnswerWhateverTheirCase) {

@@ -182,9 +182,8 @@ TEST(LocaleImpl, TerminalEncodingFollowsTheEncodingUntilCopied) {
     EXPECT_EQ(copy, locale);
     copy.setEncoding("UTF-8");
     EXPECT_NE(copy, locale);
-    for (int type = QnLcOptDataCtx::terminal_encoding; type <= QnLcOptDataCtx::terminal_output_encoding;
-         ++type)
-        EXPECT_EQ(text_of(copy, static_cast<QnLcOptDataCtx::LcOptDataType>(type)), "Shift_JIS") << type;
+    for (int i = QnLcOptDataCtx::terminal_encoding; i <= QnLcOptDataCtx::terminal_output_encoding; ++i)
+        EXPECT_EQ(text_of(copy, static_cast<QnLcOptDataCtx::LcOptDataType>(i)), "Shift_JIS") << i;
     EXPECT_THROW(copy.getLcOptData(static_cast<QnLcOptDataCtx::LcOptDataType>(6)), QnLcInvLcArgument);
     locale.setEncoding("UTF-8");
     EXPECT_EQ(copy, locale) << "the terminal encoding is no part of a locale's identity";
