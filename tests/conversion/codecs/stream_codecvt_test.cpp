@@ -107,4 +107,11 @@ TEST(StreamCodecvt, SizesAndNullRanges) {
     EXPECT_FALSE(cvt.do_convert(&dst, room + 9, &none, nullptr, true));
     EXPECT_EQ("&#x20AC;", std::string(room, dst));
     EXPECT_THROW(cvt.do_convert(&dst, room + 9, &(src = euro.data()), nullptr, false), CvtConversionFailure);
+    char16_t unit = u'a', *units = &unit;
+    char16_t const* from = &unit;
+    stream_codecvt_string_to_ustring const to_text("UTF-8", true);
+    stream_codecvt_ustring_to_string const to_bytes("UTF-8", true);
+    EXPECT_THROW(to_text.do_convert(nullptr, nullptr, &none, nullptr, true), CvtConversionFailure);
+    EXPECT_THROW(to_text.do_convert(&units, units + 1, nullptr, nullptr, true), CvtConversionFailure);
+    EXPECT_THROW(to_bytes.do_convert(nullptr, nullptr, &from, from, true), CvtConversionFailure);
 }

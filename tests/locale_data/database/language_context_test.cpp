@@ -20,7 +20,9 @@ TEST(LanguageContext, NamesResolveToOneRow) {
         zh_TW zh_TW.Big5  zh_HK zh_HK.Big5-HKSCS  zh_SG zh_SG.GB2312  zh-hant_tw zh-Hant_TW.Big5
         zh-Hans-MO zh-Hans_MO.GB2312  zh-Phag_US zh-Phag_US.  zh-Hant .  zh-Latn_TW .
         sr-Latn_BA sr-Latn_BA.ISO-8859-2  sr_BA .  az_AZ az_AZ.UTF-8  en_au.UTF-8@euro en_AU.ISO-8859-1
-        en_029 en_029.ISO-8859-1  ja-Jpan .  mt-Latn mt-Latn_MT.ISO-8859-3  xx_YY .  C .  ~ .)")) {
+        en_029 en_029.ISO-8859-1  ja-Jpan .  mt-Latn mt-Latn_MT.ISO-8859-3  xx_YY .  C .  ~ .  xx .
+        fr fr_FR.ISO-8859-15  bal .  zh_MO zh_MO.Big5  az-Cyrl_AZ az-Cyrl_AZ.ISO-8859-5
+        en_GB en_GB.ISO-8859-15  sv_FI sv_FI.ISO-8859-15)")) {
         auto const element = get_locale_name_element(context(), name);
         EXPECT_EQ(element.short_locale_name() + '.' + element.encoding, expected) << name;
         EXPECT_EQ(get_language_context(context(), name).empty(), element.language.empty()) << name;

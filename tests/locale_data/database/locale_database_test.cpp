@@ -38,7 +38,8 @@ TEST(LocaleDatabase, ResolvesLocales) {
         zh-Hans-CN zh_CN GB2312 zh_CN.GB2312          sr_Latn sr-Latn_BA windows-1250 (null)
         ja ja_JP Shift_JIS ja_JP.SJIS                 de_AT.UTF-8@euro de_AT ISO-8859-1 de_AT.ISO8859-1
         ach ach_UG UTF-8 (null)                       ee ee_EE ISO-8859-4 (null)
-        ny ny_NO ISO-8859-1 (null))"))
+        ny ny_NO ISO-8859-1 (null)                    ! ~ UTF-8 (null)
+        en_US_POSIX en_US_POSIX US-ASCII C            en_AI en_AI ISO-8859-1 (null))"))
         EXPECT_EQ(ask_locale(database(), name.c_str()), canonical + ' ' + encoding + ' ' + xpg_name) << name;
 }
 

@@ -102,6 +102,15 @@ TEST_F(LcDataXmlTest, FailedStepsGoToTheLog) {
                      "LcData::addEncodingAlias::modifyEncodingAlias - a:2\n");
 }
 
+TEST(LcData, AsksAboutNames) {
+    EXPECT_EQ(LcData::extract_short_name("de_AT.UTF-8@euro"), "de_AT");
+    EXPECT_EQ(LcData::getEncodingFromAlias("sjis") + LcData::getEncodingFromAlias("no-such"),
+              "Shift_JISno-such");
+    EXPECT_EQ(LcData::getQnStandardEncodingName("sjis") + LcData::getQnStandardEncodingName("no-such"),
+              "Shift_JIS");
+    EXPECT_TRUE(LcData::checkEncoding("sjis") && !LcData::checkEncoding("no-such"));
+}
+
 TEST_F(LcDataXmlTest, StructureOfDocuments) {
     auto const before = dump(database_);
     for (char const* accepted :
