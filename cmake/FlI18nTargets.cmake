@@ -64,6 +64,11 @@ function(fl_i18n_add_layer)
     if(NOT APPLE) # where no symbol can be replaced from outside anyway
       target_compile_options(${target} PRIVATE -fno-semantic-interposition)
     endif()
+    # Where a short loop lies within a line of the cache changes its speed by a tenth, and any function before it
+    # may move it.
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+      target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-falign-functions=64>)
+    endif()
     set_target_properties(${target} PROPERTIES
       POSITION_INDEPENDENT_CODE ON
       CXX_VISIBILITY_PRESET hidden
