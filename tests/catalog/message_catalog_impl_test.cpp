@@ -46,7 +46,8 @@ TEST_F(MessageCatalogImplTest, FailedLoadsThrow) {
         "Message Catalog a:b was not loaded from the file. Please check file location, format or contents";
     for (auto const& where : {upath(text(u"missing")), upath(text(u"")), upath(), upath(u"/\xD800"),
                               upath(text(std::u16string_view(u"c.xml\0x", 7)))})
-        EXPECT_EQ(failure<LoadFailed>([&] { MessageCatalogImpl("a:b", where, "de"); }), failed);
+        EXPECT_EQ(failure<LoadFailed>([&] { MessageCatalogImpl("a:b", where, "de"); }), failed)
+            << testing::PrintToString(where.string());
     auto catalog = load(sample);
     EXPECT_EQ(failure<LoadFailed>([&] { load("<rsccat><message>"); }), failed);
     EXPECT_EQ(failure<LoadFailed>([&] { catalog.initializeXMLCatalog(); }), failed) << "loads anew";

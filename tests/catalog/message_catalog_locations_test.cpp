@@ -25,7 +25,7 @@ TEST_F(MessageCatalogLocations, RefuseWhatTheyCannotUse) {
     ASSERT_TRUE(MessageCatalog::MessageCatalogInit(main_));
     for (roots const& bad : {roots{}, roots{addon_, bare_, addon_}, roots{text(u"none")},
                              roots{ustring(u"\0", 1)}, roots{addon_, ustring(5000, u'a')}})
-        EXPECT_THROW(add(bad), MessageCatalog::MessageCatalogIncorrectRoot);
+        EXPECT_THROW(add(bad), MessageCatalog::MessageCatalogIncorrectRoot) << testing::PrintToString(bad);
     EXPECT_EQ("Path is not valid!", failure<MessageCatalog::InvalidPathSupplied>(remove_root, ustring()));
     for (ustring const& root : {main_, addon_, bare_})
         EXPECT_EQ("Resource path not found!",

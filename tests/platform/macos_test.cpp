@@ -105,7 +105,7 @@ TEST_F(MacosPreferences, WhatCannotBeReadIsEmpty) {
 TEST_F(MacosPreferences, ALanguageListIsStoredWholeOrNotAtAll) {
     macos.store_application_languages({"en", "d\xC3\xA9"});
     for (char const* const call : {"CFArrayCreateMutable", "CFStringCreateWithBytes", "none"}) {
-        EXPECT_EQ(fake_cf.stored, std::vector<std::string>());
+        EXPECT_EQ(fake_cf.stored, std::vector<std::string>()) << "before " << call;
         fake_cf.failing = call;
         macos.store_application_languages({"de-AT", "en"});
     }

@@ -36,10 +36,10 @@ TEST(StringConversion, UsesTheEncodingsOfTheProcessAndTheTerminal) {
         EXPECT_EQ(fl::ustring(2000, u'\u00e9'), to_ustring(to_string(fl::ustring(2000, u'\u00e9'))));
         EXPECT_NE("", to_string(u"\uFFFF\xD800")) << "substitutes";
     }
-    for (auto const create : {create_codecvt_ustring_to_terminal, create_codecvt_ustring_to_terminal_output})
-        EXPECT_EQ("\x93\xFA\xFC\xFC", create()->convert(u"\u65e5\u00e9"));
-    for (auto const create : {create_codecvt_terminal_to_ustring, create_codecvt_terminal_input_to_ustring})
-        EXPECT_EQ(u"\u65e5\x1A", create()->convert("\x93\xFA\xFF"));
+    EXPECT_EQ("\x93\xFA\xFC\xFC", create_codecvt_ustring_to_terminal()->convert(u"\u65e5\u00e9"));
+    EXPECT_EQ("\x93\xFA\xFC\xFC", create_codecvt_ustring_to_terminal_output()->convert(u"\u65e5\u00e9"));
+    EXPECT_EQ(u"\u65e5\x1A", create_codecvt_terminal_to_ustring()->convert("\x93\xFA\xFF"));
+    EXPECT_EQ(u"\u65e5\x1A", create_codecvt_terminal_input_to_ustring()->convert("\x93\xFA\xFF"));
 }
 
 // Encodings and converters that cannot convert show which calls use them at all.

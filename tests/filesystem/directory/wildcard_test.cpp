@@ -56,6 +56,7 @@ TEST(WildcardTest, AgreesWithItsRegularExpression) {
 TEST(WildcardTest, NamesMadeToBeSlow) {
     ustring const name = u"xab" + ustring(255, u'\r') + u"\n";
     for (ustring const pattern : {u"*a*b", u"*a*\r*\r*\r*\r*\r*\r*\r*\r*b", u"*ab*\r\r\r\n"}) {
+        SCOPED_TRACE(ustring_to_utf8(pattern));
         auto const parsed = wildcard::parse(generate_pattern_from_filename(pattern)).value();
         EXPECT_EQ(parsed.matches(name), pattern.back() == u'\n');
         EXPECT_EQ(expression_matches(parsed.bounded_expression(), 17, name), pattern.back() == u'\n');
@@ -66,7 +67,8 @@ TEST(WildcardTest, ExpressionsToTheLetter) {
     for (auto const& [filename, expression] : fl::testing::rows<2>(
              R"(~ ^.*$  . ^.*$  .. ^.*$  ... ^\.\.\.$  * ^(.|\r)*$  *.txt ^(.|\r)*\.txt$  a* ^a(.|\r)*$
                 a**b ^a(.|\r)*b$  a?b ^a\?b$  ]-#*&~ ^]-#(.|\r)*&~$  $()+.?[\^{|} ^\$\(\)\+\.\?\[\\\^\{\|\}$)"))
-        EXPECT_EQ(ustring_to_utf8(generate_pattern_from_filename(utf8_to_ustring(filename))), expression);
+        EXPECT_EQ(ustring_to_utf8(generate_pattern_from_filename(utf8_to_ustring(filename))), expression)
+            << filename;
     for (auto const& [other] :
          fl::testing::rows<1>(R"(~ ^ ^a a$ ^a.*$ ^(.|\r)+$ ^(.|\r)*?$ ^a|b$ ^\d$ ^\$ ^$$ ^a{2}$ ^[ab]$)"))
         EXPECT_FALSE(wildcard::parse(utf8_to_ustring(other))) << other;

@@ -19,6 +19,7 @@ static void expect_converts(fl::i18n::converter<To, From> const& converter,
     EXPECT_EQ(converter.convert(exact.data(), exact.size()), expected);
     EXPECT_EQ(converter.get_destination_size(exact.data(), exact.size()), expected.size());
     for (std::size_t const capacity : {expected.size(), expected.size() / 2}) {
+        SCOPED_TRACE(capacity);
         std::vector<To> buffer(capacity);
         EXPECT_EQ(converter.convert(buffer.data(), capacity, exact.data(), exact.size()), expected.size());
         EXPECT_TRUE(capacity < expected.size() || std::equal(buffer.begin(), buffer.end(), expected.begin()));

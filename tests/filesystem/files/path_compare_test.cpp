@@ -51,6 +51,7 @@ TEST_F(PathCompareTest, FollowsTheMask) {
 
 TEST_F(PathCompareTest, RefusesMasksUnlessANameIsEmpty) {
     for (unsigned const mask : {4u, 8u, 18u}) {
+        SCOPED_TRACE(mask);
         EXPECT_EQ(outcome(u"", u"", mask), "=");
         EXPECT_EQ(outcome(u"x", u"", mask), ">");
         EXPECT_EQ(outcome(u"x", u"x", mask),

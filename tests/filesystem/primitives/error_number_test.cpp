@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <cstring>
 
 using namespace fl::filesystem;
 
@@ -19,7 +20,7 @@ TEST(ErrorNumber, EachErrorNumberHasItsClassAndGoesBack) {
                       {EISDIR, "FileIsDirectory", 10},   {EEXIST, "FileExistsError", 11},
                       {ELOOP, "SystemError", 13},        {ENAMETOOLONG, "FileNameTooLarge", 3}};
     for (auto const& [error, id, code] : rows) {
-        SCOPED_TRACE(id);
+        SCOPED_TRACE(std::strerror(error));
         try {
             detail::throw_errno(error, "/caf\xC3\xA9", "/raw\xFF");
         } catch (FsysExceptionBase const& failure) {
