@@ -48,7 +48,7 @@ std::shared_ptr<MessageCatalog> catalog_registry::load(std::string const& catalo
             cache.insert(key, shared, flush_count);
             return shared;
         }
-    std::shared_ptr<MessageCatalog> const loaded =
+    std::shared_ptr<MessageCatalog> loaded =
         std::make_shared<MessageCatalogImpl>(catalog, file.path, file.locale);
     cache.insert(key, loaded, flush_count);
     if (is_fallback)
