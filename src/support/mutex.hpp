@@ -16,16 +16,13 @@
 #define FL_THREAD_SAFETY(attribute)
 #endif
 
-/// A field that only a holder of the mutex touches; what a pointer points to, likewise.
+/// A field that only a holder of the mutex touches.
 #define FL_GUARDED_BY(mutex) FL_THREAD_SAFETY(guarded_by(mutex))
-#define FL_PT_GUARDED_BY(mutex) FL_THREAD_SAFETY(pt_guarded_by(mutex))
 /// A function whose caller holds the mutex, or must not hold it.
 #define FL_REQUIRES(...) FL_THREAD_SAFETY(requires_capability(__VA_ARGS__))
 #define FL_EXCLUDES(...) FL_THREAD_SAFETY(locks_excluded(__VA_ARGS__))
 /// A function that touches guarded fields without their mutex, and says beside it why it may.
 #define FL_NO_THREAD_SAFETY_ANALYSIS FL_THREAD_SAFETY(no_thread_safety_analysis)
-/// A function that returns the mutex, under another name for it.
-#define FL_RETURN_CAPABILITY(mutex) FL_THREAD_SAFETY(lock_returned(mutex))
 
 namespace fl::support {
 

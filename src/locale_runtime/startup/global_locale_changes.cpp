@@ -77,8 +77,8 @@ void lock_global_locale(context_state& state) {
 
 void change_global_locale(context_state& state, QnLocale const& locale) {
     constexpr char const* title = "QnLocaleCtx::QnLocaleCtx::change_current_locale";
-    bool const wants_english =
-        has_english_messages(locale); // not under the mutex: may be a caller's own code
+    // Not under the mutex: the locale may be a caller's own code.
+    bool const wants_english = has_english_messages(locale);
     support::mutex_lock const lock(state.mutex);
     if (state.locale_locked || !state.l10n_enabled) {
         state.log.add(title, nothing_done);

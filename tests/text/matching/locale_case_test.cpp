@@ -14,4 +14,5 @@ static void expect_as_icu(fl::ustring const& source) {
 
 TEST(LocaleCase, EveryTextGoesAsByIcu) {
     for_each_text(expect_as_icu);
+    expect_as_icu(fl::ustring(3000, u'\u1F82')); // which grows, past every buffer on the stack
 }
